@@ -1,0 +1,180 @@
+#include "rc/menubuilder.h"
+
+#include <cstring>
+
+#include "rc/filename.h"
+#include "rc/locate.h"
+#include "rc/textkit.h"
+
+namespace brelt::rc {
+namespace {
+
+class MenuBuilder {
+ public:
+  MenuBuilder(const char* text, const SymbolIndex& symbols, AcceleratorTable& accelerators,
+              MenuFault& fault) noexcept
+      : text_(text), symbols_(symbols), accelerators_(accelerators), fault_(fault) {}
+
+  host::MenuHandle* Build() noexcept {
+    host::MenuHandle* menu = BuildBar();
+    if (!fault_) return menu;
+    if (menu != nullptr) host::DestroyMenuTree(menu);
+    FixedText<64> place;
+    TokenPlaceText(text_, position_, place);
+    fault_.message.Append(" ");
+    fault_.message.Append(place.view());
+    return nullptr;
+  }
+
+ private:
+  void Next() noexcept { ScanToken(text_, position_, token_); }
+  bool TokenIs(std::string_view word) const noexcept { return EqualIgnoreCase(token_.view(), word); }
+  // Fails unless the token in hand is the keyword.
+  bool Expect(std::string_view keyword, std::string_view failure) noexcept {
+    if (!TokenIs(keyword)) fault_.Set(RTX_MENU_SYNTAX, failure);
+    return !fault_;
+  }
+
+  host::MenuHandle* BuildBar() noexcept;
+  void BuildElements(host::MenuHandle* menu) noexcept;
+  void BuildItem(host::MenuHandle* menu) noexcept;
+  void BuildPopup(host::MenuHandle* parent) noexcept;
+  std::int32_t ReadCommand() noexcept;
+  void AddTitleKeys(host::MenuHandle* menu) noexcept;
+
+  const char* text_;
+  const SymbolIndex& symbols_;
+  AcceleratorTable& accelerators_;
+  MenuFault& fault_;
+  std::int32_t position_ = 0;
+  Token token_;  // the token in hand
+};
+
+// name "MENU" {load option} "BEGIN" {element} "END"
+host::MenuHandle* MenuBuilder::BuildBar() noexcept {
+  SkipSpace(text_, position_);
+  Next();
+  Next();
+  if (!Expect("MENU", "MENU expected")) return nullptr;
+  do {
+    Next();
+  } while (IsLoadOption(token_.view()));
+  if (!Expect("BEGIN", "BEGIN expected")) return nullptr;
+  host::MenuHandle* menu = host::MakeMenu();
+  if (menu == nullptr) {
+    fault_.Set(RTX_NO_MEMORY, kMenuNoMemory);
+    return nullptr;
+  }
+  BuildElements(menu);
+  if (!fault_) AddTitleKeys(menu);
+  return menu;
+}
+
+// {item | popup} "END". A statement of another kind ends the elements, and is then no END.
+void MenuBuilder::BuildElements(host::MenuHandle* menu) noexcept {
+  Next();
+  while (!fault_ && (TokenIs("MENUITEM") || TokenIs("POPUP"))) {
+    if (TokenIs("POPUP")) {
+      BuildPopup(menu);
+    } else {
+      BuildItem(menu);
+    }
+    if (!fault_) Next();
+  }
+  if (!fault_) Expect("END", "END expected");
+}
+
+// "MENUITEM" ("SEPARATOR" | string "," identifier options)
+void MenuBuilder::BuildItem(host::MenuHandle* menu) noexcept {
+  Next();
+  if (TokenIs("SEPARATOR")) return host::AppendItem(menu, kMenuSeparator, 0, nullptr);
+  if (*token_.c_str() != '"') return fault_.Set(RTX_MENU_SYNTAX, kMenuStringExpected);
+  Token itemText;
+  token_.Assign(StringBody(token_.view()));
+  UnescapeText(token_.c_str(), itemText);
+  Next();
+  if (!TokenIs(",")) return fault_.Set(RTX_MENU_SYNTAX, kMenuCommaExpected);
+  const std::int32_t command = ReadCommand();
+  const std::uint32_t options = ReadMenuOptions(text_, position_, fault_);
+  if (fault_) return;
+  host::AppendItem(menu, options, command, itemText.c_str());
+  AddAccelerators(itemText.c_str(), command, accelerators_);
+}
+
+// A number stands for itself, 0 included; a word needs a #define, the common identifiers too.
+std::int32_t MenuBuilder::ReadCommand() noexcept {
+  Next();
+  if (IsDigitOrSign(*token_.c_str())) return DecimalValue(token_.c_str());
+  const std::int32_t command = FindSymbolValue(symbols_, token_.c_str());
+  if (command == 0) {
+    FoldToUpper(token_.data());
+    fault_.Set(RTX_UNDEFINED_ID, "Menu command identifier not defined: ", token_.view());
+  }
+  return command;
+}
+
+// "POPUP" any options "BEGIN" {element} "END". Whatever token stands for the title loses its first and last
+// character, and escapes in it reach the menu bar as written: titles have always been shown so.
+void MenuBuilder::BuildPopup(host::MenuHandle* parent) noexcept {
+  Next();
+  Token title;
+  if (token_.view().size() > 2) title.Assign(token_.view().substr(1, token_.view().size() - 2));
+  const std::uint32_t options = ReadMenuOptions(text_, position_, fault_) | kMenuPopup;
+  if (fault_) return;
+  host::MenuHandle* popup = host::MakePopupMenu();
+  if (popup == nullptr) return fault_.Set(RTX_NO_MEMORY, kMenuNoMemory);
+  host::AppendPopup(parent, options, popup, title.c_str());
+  Next();
+  if (Expect("BEGIN", "BEGIN expected")) BuildElements(popup);
+}
+
+// Alt and the letter behind the first & of a title open the menu bar there. A digit gets no row.
+void MenuBuilder::AddTitleKeys(host::MenuHandle* menu) noexcept {
+  const int count = host::CountItems(menu);
+  for (int position = 0; position < count; ++position) {
+    Token title;
+    host::ItemTextAt(menu, position, title);
+    const char* mark = std::strchr(title.c_str(), '&');
+    if (mark == nullptr || !IsLetter(mark[1])) continue;
+    FixedText<15> keys;
+    keys.Format("\t Alt+%c", ToUpper(mark[1]));
+    AddAccelerators(keys.c_str(), 0, accelerators_);
+  }
+}
+
+}  // namespace
+
+host::MenuHandle* BuildMenu(const char* text, const SymbolIndex& symbols, AcceleratorTable& accelerators,
+                            MenuFault& fault) noexcept {
+  fault = {};
+  return MenuBuilder(text, symbols, accelerators, fault).Build();
+}
+
+host::MenuHandle* BuildMenuFromFile(const char* fileName, const char* menuName, const SymbolIndex& symbols,
+                                    AcceleratorTable& accelerators, MenuFault& fault) noexcept {
+  fault = {};
+  for (AcceleratorRow& row : accelerators) row = {};
+  if (IsEmpty(menuName) || IsEmpty(fileName)) return nullptr;
+
+  FixedText<63> prefix;
+  prefix.Format("Menu <%-.*s>, ", kNameLength, menuName);
+  const host::Block<char> text(kResourceTextSize);
+  const auto fail = [&fault](std::int32_t code, const char* first, const char* second) -> host::MenuHandle* {
+    fault.Set(code, first, second);
+    return nullptr;
+  };
+  if (!text) return fail(RTX_NO_MEMORY, prefix.c_str(), "not enough memory to create menu");
+  if (!IsAcceptedFileName(fileName)) return fail(RTX_RESOURCE_FILE, BadFileNameMessage(fileName).c_str(), "");
+  if (FileSizeOf(fileName) < 0) return fail(RTX_RESOURCE_FILE, MissingFileMessage(fileName).c_str(), "");
+  if (LocateResource(fileName, menuName, "MENU", {text.get(), kResourceTextSize}) == 0) {
+    return fail(RTX_NO_MENU, prefix.c_str(), "cannot be found in resource file");
+  }
+  host::MenuHandle* menu = BuildMenu(text.get(), symbols, accelerators, fault);
+  if (fault) {
+    const FixedText<1023> reason = fault.message;
+    fault.Set(fault.code, prefix.view(), reason.view());
+  }
+  return menu;
+}
+
+}  // namespace brelt::rc

@@ -1,0 +1,149 @@
+#include "rc/menuparser.h"
+
+#include "rc/fields.h"
+#include "rc/menuoptions.h"
+#include "rc/textkit.h"
+
+namespace brelt::rc {
+namespace {
+
+class MenuParser {
+ public:
+  MenuParser(const char* text, RecordTable& records, TextBuffer message) noexcept
+      : text_(text), records_(records), message_(message) {
+    message_.Clear();
+  }
+
+  bool Parse() noexcept {
+    ClearRecords(records_);
+    ParseHeader();
+    if (!failed_) ParseElements();
+    if (!failed_) return true;
+    FixedText<64> place;
+    TokenPlaceText(text_, position_, place);
+    TextWriter::Continue(message_).Append(' ').Append(place.view());
+    ClearRecords(records_);
+    return false;
+  }
+
+ private:
+  void Next() noexcept { ScanToken(text_, position_, token_); }
+  bool TokenIs(std::string_view word) const noexcept { return EqualIgnoreCase(token_.view(), word); }
+  const char* MenuName() const noexcept { return records_[0]->name.c_str(); }
+
+  void ParseHeader() noexcept;
+  void ParseElements() noexcept;
+  void ParseElement(ResourceRecord& record) noexcept;
+  void ReadItem(ResourceRecord& record, MenuFault& fault) noexcept;
+  void ReadPopup(ResourceRecord& record, MenuFault& fault) noexcept;
+
+  const char* FoundWord() noexcept {
+    if (token_.IsEmpty()) BadWordText(text_, position_, token_);
+    return token_.IsEmpty() ? "?" : token_.c_str();
+  }
+  TextWriter Fail() noexcept {
+    failed_ = true;
+    return TextWriter(message_);
+  }
+
+  const char* text_;
+  RecordTable& records_;
+  TextBuffer message_;
+  std::int32_t position_ = 0;
+  Token token_;  // the token in hand
+  bool failed_ = false;
+};
+
+// name keyword {load option} "BEGIN"
+void MenuParser::ParseHeader() noexcept {
+  ResourceRecord& menu = *records_[0];
+  SkipSpace(text_, position_);
+  ScanToken(text_, position_, menu.name);
+  ScanToken(text_, position_, menu.keyword);
+  do {
+    Next();
+  } while (IsLoadOption(token_.view()));
+  if (!IsIdentifier(menu.name.c_str())) {
+    Fail().Format("The resource string should start with the name of a MENU resource, instead <%-.*s> was found",
+                  kNameLength, menu.name.IsEmpty() ? "?" : menu.name.c_str());
+  } else if (!TokenIs("BEGIN")) {
+    Fail().Format("Menu <%-.*s>, BEGIN is expected instead of <%-.*s>", kNameLength, MenuName(), kNameLength,
+                  FoundWord());
+  }
+}
+
+// "BEGIN" {item | popup | "BEGIN" | "END"}, up to the END of level 0. That a BEGIN belongs to a popup isn't tested.
+void MenuParser::ParseElements() noexcept {
+  ResourceRecord surplus;
+  std::int32_t level = 0;
+  int number = 1;
+  do {
+    if (TokenIs("BEGIN")) {
+      ++level;
+      Next();
+    } else if (TokenIs("END")) {
+      --level;
+      Next();
+    } else if (TokenIs("POPUP") || TokenIs("MENUITEM")) {
+      ResourceRecord& record = number <= kElementCount ? *records_[number] : surplus;
+      record.x = level;
+      ParseElement(record);
+      if (!failed_ && number > kElementCount) {
+        Fail().Format("Menu <%-.*s>, too many menu elements, maximum number is %i", kNameLength, MenuName(),
+                      kElementCount);
+      }
+      ++number;
+    } else {
+      Fail().Format("Menu <%-.*s>, <%-.*s> is not expected here", kNameLength, MenuName(), kNameLength,
+                    FoundWord());
+    }
+  } while (!failed_ && level > 0);
+}
+
+void MenuParser::ParseElement(ResourceRecord& record) noexcept {
+  MenuFault fault;
+  record.keyword.Assign(token_.view());
+  if (TokenIs("POPUP")) {
+    ReadPopup(record, fault);
+  } else {
+    ReadItem(record, fault);
+  }
+  if (fault) {
+    Fail().Format("Menu <%-.*s>, %s", kNameLength, MenuName(), fault.message.c_str());
+  } else {
+    Next();
+  }
+}
+
+// "POPUP" [string] options
+void MenuParser::ReadPopup(ResourceRecord& record, MenuFault& fault) noexcept {
+  ParseOptionalString(text_, position_, record.text);
+  UnescapeInPlace(record.text);
+  record.style = ReadMenuOptions(text_, position_, fault) | kMenuPopup;
+}
+
+// "MENUITEM" ("SEPARATOR" | string "," identifier options). Any token passes for an identifier.
+void MenuParser::ReadItem(ResourceRecord& record, MenuFault& fault) noexcept {
+  Next();
+  if (TokenIs("SEPARATOR")) {
+    record.style = kMenuSeparator;
+    return;
+  }
+  if (*token_.c_str() != '"') return fault.Set(RTX_MENU_SYNTAX, kMenuStringExpected);
+  Token decoded;
+  token_.Assign(StringBody(token_.view()));
+  UnescapeText(token_.c_str(), decoded);
+  record.text.Assign(decoded.view());
+  Next();
+  if (!TokenIs(",")) return fault.Set(RTX_MENU_SYNTAX, kMenuCommaExpected);
+  ScanToken(text_, position_, record.name);
+  record.style = ReadMenuOptions(text_, position_, fault);
+}
+
+}  // namespace
+
+bool ParseMenu(const char* text, RecordTable& records, TextBuffer message) noexcept {
+  return MenuParser(text, records, message).Parse();
+}
+
+}  // namespace brelt::rc

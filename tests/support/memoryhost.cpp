@@ -1,0 +1,207 @@
+#include "tests/support/memoryhost.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <map>
+#include <memory>
+
+namespace brelt::test {
+namespace {
+
+struct Node {
+  std::string path;  // as it was first written
+  std::string bytes;
+  bool isDirectory = false;
+  bool readOnly = false;
+};
+
+struct Failure {
+  int at = -1;
+  bool stay = false;
+  int count = 0;
+
+  bool Strikes() {
+    const int n = count++;
+    return at >= 0 && (n == at || (stay && n > at));
+  }
+};
+
+struct State {
+  std::map<std::string, std::shared_ptr<Node>> files;
+  std::string currentDirectory = "c:\\work";
+  std::string programPath = "c:\\program\\test.exe";
+  Failure allocation;
+  Failure file;
+  int live = 0;
+  int open = 0;
+};
+
+State& Host() {
+  static State state;
+  return state;
+}
+
+std::string Key(const std::string& path) {
+  std::string full = path;
+  if (full.size() < 2 || full[1] != ':') full = Host().currentDirectory + "\\" + full;
+  for (char& c : full) c = c == '/' ? '\\' : rc::ToLower(c);
+  return full;
+}
+
+std::shared_ptr<Node> Find(const std::string& path) {
+  const auto found = Host().files.find(Key(path));
+  return found == Host().files.end() ? nullptr : found->second;
+}
+
+}  // namespace
+
+void ResetHost() { Host() = State(); }
+
+void WriteFile(const std::string& path, const std::string& bytes) {
+  std::shared_ptr<Node>& node = Host().files[Key(path)];
+  if (node == nullptr) node = std::make_shared<Node>(Node{path, "", false, false});
+  node->bytes = bytes;
+}
+
+std::string ReadFile(const std::string& path) {
+  const auto node = Find(path);
+  return node == nullptr ? "" : node->bytes;
+}
+
+bool FileExists(const std::string& path) { return Find(path) != nullptr; }
+
+void MakeDirectory(const std::string& path) {
+  Host().files[Key(path)] = std::make_shared<Node>(Node{path, "", true, false});
+}
+
+std::vector<std::string> ListFiles() {
+  std::vector<std::string> paths;
+  for (const auto& [key, node] : Host().files) paths.push_back(key);
+  return paths;
+}
+
+void SetReadOnly(const std::string& path, bool readOnly) { Find(path)->readOnly = readOnly; }
+void SetCurrentDirectory(const std::string& path) { Host().currentDirectory = path; }
+void SetProgramPath(const std::string& path) { Host().programPath = path; }
+
+void FailAllocation(int n) { Host().allocation = {n, false, 0}; }
+int AllocationCount() { return Host().allocation.count; }
+int LiveAllocations() { return Host().live; }
+void FailFileOperation(int n, bool stay) { Host().file = {n, stay, 0}; }
+int FileOperationCount() { return Host().file.count; }
+int OpenFiles() { return Host().open; }
+
+}  // namespace brelt::test
+
+namespace brelt::host {
+
+using namespace brelt::test;
+
+struct FileHandle {
+  std::shared_ptr<Node> node;
+  std::size_t position = 0;
+  bool append = false;
+};
+
+void* AllocateZeroed(std::size_t bytes) noexcept {
+  if (Host().allocation.Strikes()) return nullptr;
+  ++Host().live;
+  return std::calloc(1, bytes == 0 ? 1 : bytes);
+}
+
+void Release(void* block) noexcept {
+  --Host().live;
+  std::free(block);
+}
+
+FileHandle* OpenFile(const char* path, OpenMode mode) noexcept {
+  if (Host().file.Strikes()) return nullptr;
+  std::shared_ptr<Node> node = Find(path);
+  if (node != nullptr && (node->isDirectory || (node->readOnly && mode != OpenMode::kRead))) return nullptr;
+  if (node == nullptr && mode == OpenMode::kRead) return nullptr;
+  if (node == nullptr || mode == OpenMode::kReplace) {
+    WriteFile(path, "");
+    node = Find(path);
+  }
+  ++Host().open;
+  return new FileHandle{node, 0, mode == OpenMode::kAppend};
+}
+
+int ReadBytes(FileHandle* file, char* buffer, int size) noexcept {
+  if (Host().file.Strikes()) return -1;
+  const std::string& bytes = file->node->bytes;
+  const std::size_t left = file->position < bytes.size() ? bytes.size() - file->position : 0;
+  const std::size_t count = left < static_cast<std::size_t>(size) ? left : static_cast<std::size_t>(size);
+  std::memcpy(buffer, bytes.data() + file->position, count);
+  file->position += count;
+  return static_cast<int>(count);
+}
+
+bool SeekFile(FileHandle* file, std::uint64_t offset) noexcept {
+  if (Host().file.Strikes()) return false;
+  file->position = static_cast<std::size_t>(offset);
+  return true;
+}
+
+bool WriteBytes(FileHandle* file, const char* bytes, int size) noexcept {
+  // A full disk takes a part.
+  const bool fails = Host().file.Strikes();
+  std::string& content = file->node->bytes;
+  const std::size_t count = static_cast<std::size_t>(fails ? size / 2 : size);
+  if (file->append) file->position = content.size();
+  if (content.size() < file->position + count) content.resize(file->position + count);
+  content.replace(file->position, count, bytes, count);
+  file->position += count;
+  return !fails;
+}
+
+bool CloseFile(FileHandle* file) noexcept {
+  const bool fails = Host().file.Strikes();
+  --Host().open;
+  delete file;
+  return !fails;
+}
+
+bool QueryFileSize(const char* path, std::uint64_t& size) noexcept {
+  if (Host().file.Strikes()) return false;
+  const auto node = Find(path);
+  if (node == nullptr || node->isDirectory) return false;
+  size = node->bytes.size();
+  return true;
+}
+
+bool RemoveFile(const char* path) noexcept {
+  if (Host().file.Strikes()) return false;
+  const auto node = Find(path);
+  if (node == nullptr || node->isDirectory || node->readOnly) return false;
+  Host().files.erase(Key(path));
+  return true;
+}
+
+bool RenameFile(const char* from, const char* to) noexcept {
+  if (Host().file.Strikes()) return false;
+  const auto node = Find(from);
+  if (node == nullptr || Find(to) != nullptr) return false;
+  Host().files[Key(to)] = node;
+  Host().files.erase(Key(from));
+  return true;
+}
+
+bool CanRewriteFile(const char* path) noexcept {
+  if (Host().file.Strikes()) return false;
+  const auto node = Find(path);
+  return node != nullptr && !node->isDirectory && !node->readOnly;
+}
+
+void CurrentDirectory(rc::TextBuffer path) noexcept { path.Assign(Host().currentDirectory); }
+
+void ModulePath(const void*, rc::TextBuffer path) noexcept { path.Assign(Host().programPath); }
+
+FontChoice DefaultFont() noexcept {
+  FontChoice font;
+  font.face.Assign("Microsoft Sans Serif");
+  font.size = 8;
+  return font;
+}
+
+}  // namespace brelt::host

@@ -1,0 +1,16 @@
+// Menus as a model in memory, in place of the platform's.
+#pragma once
+
+#include <string>
+
+#include "frame/menuhost.h"
+
+namespace brelt::test {
+
+// The menu as lines: nesting by two blanks, then flags, id and text, as in "  0008 101 &Open".
+std::string DumpMenu(const host::MenuHandle* menu);
+// The n-th menu to be made from now on (from 0) can't be had; -1 for none.
+void FailMenu(int n);
+int LiveMenus();
+
+}  // namespace brelt::test
