@@ -12,6 +12,7 @@ add_library(brelt_core STATIC
   rc/menubuilder.cpp
   rc/menuoptions.cpp
   rc/menuparser.cpp
+  rc/objectkind.cpp
   rc/record.cpp
   rc/scan.cpp
   rc/styles.cpp
