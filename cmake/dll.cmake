@@ -1,6 +1,7 @@
 # brelt.dll, its import library and what programs need to build against it.
-add_library(brelt SHARED
-  brelt.def
+
+# The sources that need Windows, apart from the DLL so that tests can link what isn't exported.
+add_library(brelt_parts OBJECT
   frame/entry.cpp
   frame/fault.cpp
   frame/findwindow.cpp
@@ -40,8 +41,13 @@ add_library(brelt SHARED
   forms/windowprocs.cpp
   rc/exports.cpp
 )
-target_compile_definitions(brelt PRIVATE BRELT_BUILD NOMINMAX WIN32_LEAN_AND_MEAN)
-target_link_libraries(brelt PRIVATE brelt_library_options brelt_core comctl32 gdi32 shell32 user32)
+target_compile_definitions(brelt_parts PUBLIC BRELT_BUILD NOMINMAX WIN32_LEAN_AND_MEAN)
+target_include_directories(brelt_parts PUBLIC ${PROJECT_SOURCE_DIR})
+target_link_libraries(brelt_parts PRIVATE brelt_library_options)
+set(brelt_system_libraries comctl32 gdi32 shell32 user32)
+
+add_library(brelt SHARED brelt.def $<TARGET_OBJECTS:brelt_parts>)
+target_link_libraries(brelt PRIVATE brelt_core ${brelt_system_libraries})
 set_target_properties(brelt PROPERTIES PREFIX "" IMPORT_PREFIX "unused_" LINK_DEPENDS ${PROJECT_SOURCE_DIR}/brelt.def)
 
 # The linker's own import library has undecorated symbols, which stdcall callers don't ask for. So a second one is
