@@ -52,7 +52,8 @@ FileMessage MissingFileMessage(const char* name) noexcept {
 std::int32_t FileSizeOf(const char* name, FileSizeWords* sizeOut) noexcept {
   constexpr std::uint64_t kMost = std::numeric_limits<std::int32_t>::max();
   std::uint64_t size = ~std::uint64_t{0};
-  const bool found = !IsEmpty(name) && std::strstr(name, "\\\\") == nullptr && host::QueryFileSize(name, size);
+  const bool found =
+      !IsEmpty(name) && std::strstr(name, "\\\\") == nullptr && host::QueryFileSize(name, size);
   if (!found) size = ~std::uint64_t{0};
   if (sizeOut != nullptr) {
     *sizeOut = {static_cast<std::uint32_t>(size), static_cast<std::uint32_t>(size >> 32)};
@@ -93,8 +94,8 @@ void FindFileNearProgram(const void* module, const char* name, TextBuffer result
 void QualifyFileName(const char* name, const char* directory, TextBuffer result) noexcept {
   const PathParts file = SplitPath(View(name));
   const PathParts base = SplitPath(View(directory));
-  const bool complete = !file.name.empty() && (file.drive.empty() || file.IsRooted()) && !base.drive.empty() &&
-                        base.IsRooted() && base.name.empty() && base.extension.empty();
+  const bool complete = !file.name.empty() && (file.drive.empty() || file.IsRooted()) &&
+                        !base.drive.empty() && base.IsRooted() && base.name.empty() && base.extension.empty();
   if (!complete) {
     result.Clear();
     return;

@@ -90,9 +90,15 @@ void ResourceWalk::Feed(const char* line) noexcept {
     if (isEnd) --depth_;
   }
   switch (kind_) {
-    case Kind::kBlock: lastLine_ = isEnd && depth_ < 1; break;
-    case Kind::kSingleLine: lastLine_ = true; break;
-    case Kind::kOther: lastLine_ = isEnd; break;
+    case Kind::kBlock:
+      lastLine_ = isEnd && depth_ < 1;
+      break;
+    case Kind::kSingleLine:
+      lastLine_ = true;
+      break;
+    case Kind::kOther:
+      lastLine_ = isEnd;
+      break;
   }
 }
 

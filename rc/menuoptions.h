@@ -32,8 +32,8 @@ struct MenuFault {
   }
 };
 
-// {"," option}: the bits of the options. The comma must be there. Reads nothing once a failure is set, and stops
-// at a word that is no option, with "Unknown menu option: " and the word.
+// {"," option}: the bits of the options. The comma must be there. Reads nothing once a failure is set, and
+// stops at a word that is no option, with "Unknown menu option: " and the word.
 std::uint32_t ReadMenuOptions(const char* text, std::int32_t& position, MenuFault& fault) noexcept;
 
 }  // namespace brelt::rc

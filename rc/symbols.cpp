@@ -13,7 +13,8 @@ namespace brelt::rc {
 // ---- SymbolIndex ----
 
 SymbolIndex::SymbolIndex(std::span<const SymbolRecord> rows) noexcept : rows_(rows) {
-  while (count_ < static_cast<int>(rows_.size()) && count_ < kSymbolCount && !(*this)[count_].Name.IsEmpty()) {
+  while (count_ < static_cast<int>(rows_.size()) && count_ < kSymbolCount &&
+         !(*this)[count_].Name.IsEmpty()) {
     Add();
   }
 }
@@ -70,16 +71,16 @@ void ClearRows(std::span<SymbolRecord> rows) noexcept {
   for (SymbolRecord& row : rows) row = {};
 }
 
-// The longest numeric prefix of a value token: hexadecimal behind 0x, otherwise decimal. Limited to the signed
-// range, so that 0xFFFFFFFF is 0x7FFFFFFF.
+// The longest numeric prefix of a value token: hexadecimal behind 0x, otherwise decimal. Limited to the
+// signed range, so that 0xFFFFFFFF is 0x7FFFFFFF.
 std::int32_t DefinedValue(const char* token) noexcept {
   if (!HasHexPrefix(token)) return DecimalValue(token);
   const std::uint32_t value = HexDigitsValue(token + 2);
   return static_cast<std::int32_t>(std::min(value, std::uint32_t{INT32_MAX}));
 }
 
-// definition = "#define" name value. The mark must be the line's very first character with the word right behind
-// it, in lower case. A name that begins with '_' is no word for the scanner and so has no row.
+// definition = "#define" name value. The mark must be the line's very first character with the word right
+// behind it, in lower case. A name that begins with '_' is no word for the scanner and so has no row.
 void ReadDefinition(const char* line, GrowingTable& table) noexcept {
   if (*line != '#') return;
   std::int32_t position = 1;

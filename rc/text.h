@@ -23,8 +23,8 @@ inline std::string_view View(const char* text) noexcept {
 
 inline bool IsEmpty(const char* text) noexcept { return text == nullptr || *text == '\0'; }
 
-// A caller's character buffer: pointer and size in bytes. With a null pointer or a size below 1 nothing is ever
-// written. It owns nothing and keeps no length.
+// A caller's character buffer: pointer and size in bytes. With a null pointer or a size below 1 nothing is
+// ever written. It owns nothing and keeps no length.
 class TextBuffer {
  public:
   constexpr TextBuffer() noexcept = default;

@@ -1,5 +1,5 @@
-// The core's host for tests: files in memory under Windows paths, and memory and file operations that fail when
-// told to.
+// The core's host for tests: files in memory under Windows paths, and memory and file operations that fail
+// when told to.
 #pragma once
 
 #include <string>
