@@ -1,4 +1,5 @@
-// Character classes of RC text: plain ASCII, whatever the host's locale. Bytes from 128 up belong to no class.
+// Character classes of RC text: plain ASCII, whatever the host's locale. Bytes from 128 up belong to no
+// class.
 #pragma once
 
 #include <string_view>

@@ -119,8 +119,11 @@ void DialogParser::ParseStatements() noexcept {
 // "CAPTION" string
 void DialogParser::ReadCaption() noexcept {
   Next();
-  Window().text.Append(StringBody(token_.view()));
-  UnescapeInPlace(Window().text);
+  if (*token_.c_str() == '"') {
+    // A second caption is appended to the first, and the whole decoded again.
+    Window().text.Append(StringBody(token_.view()));
+    UnescapeInPlace(Window().text);
+  }
   Next();
 }
 
@@ -202,13 +205,14 @@ void DialogParser::ParseControl(ResourceRecord& record, int number) noexcept {
   const bool complete = statement != nullptr && ReadFields(*statement, record);
   UnescapeInPlace(record.text);
   if (!complete || record.name.IsEmpty()) {
-    Fail().Format("Dialog <%-.*s>, Control Type <%-.*s>, Control i/d <%-.*s>, Statement %i has incorrect syntax",
-                  kNameLength, Window().name.c_str(), kNameLength,
-                  record.keyword.IsEmpty() ? FoundWord() : record.keyword.c_str(), kNameLength,
-                  OrQuestionMark(record.name.c_str()), number);
+    Fail().Format(
+        "Dialog <%-.*s>, Control Type <%-.*s>, Control i/d <%-.*s>, Statement %i has incorrect syntax",
+        kNameLength, Window().name.c_str(), kNameLength,
+        record.keyword.IsEmpty() ? FoundWord() : record.keyword.c_str(), kNameLength,
+        OrQuestionMark(record.name.c_str()), number);
   } else if (number > kElementCount) {
-    Fail().Format("Dialog <%-.*s>, too many controls, maximum number is %i", kNameLength, Window().name.c_str(),
-                  kElementCount);
+    Fail().Format("Dialog <%-.*s>, too many controls, maximum number is %i", kNameLength,
+                  Window().name.c_str(), kElementCount);
   }
 }
 
@@ -239,8 +243,8 @@ bool DialogParser::ReadFields(const ControlStatement& statement, ResourceRecord&
   return rectangle.IsComplete();
 }
 
-// any string [style list]: the comma ahead of the class is required, though any token passes for it. Neither the
-// legal words nor a type word of any keyword apply to a CONTROL.
+// any string [style list]: the comma ahead of the class is required, though any token passes for it. Neither
+// the legal words nor a type word of any keyword apply to a CONTROL.
 void DialogParser::ReadControlFields(ResourceRecord& record) noexcept {
   Next();
   ParseOptionalString(text_, position_, record.className);

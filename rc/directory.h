@@ -1,5 +1,5 @@
-// Where each resource of an RC file stands, found in one walk, so that many resources can be read without a walk
-// from the top for each.
+// Where each resource of an RC file stands, found in one walk, so that many resources can be read without a
+// walk from the top for each.
 #pragma once
 
 #include "rc/linereader.h"

@@ -19,9 +19,12 @@ std::int32_t Apply(char operation, std::int32_t left, std::int32_t right) noexce
   const auto a = static_cast<std::uint32_t>(left);
   const auto b = static_cast<std::uint32_t>(right);
   switch (operation) {
-    case '+': return static_cast<std::int32_t>(a + b);
-    case '-': return static_cast<std::int32_t>(a - b);
-    default: return static_cast<std::int32_t>(a * b);
+    case '+':
+      return static_cast<std::int32_t>(a + b);
+    case '-':
+      return static_cast<std::int32_t>(a - b);
+    default:
+      return static_cast<std::int32_t>(a * b);
   }
 }
 
@@ -52,7 +55,8 @@ void ParseOptionalString(const char* text, std::int32_t& position, TextBuffer ou
   ScanToken(text, position, token);
   if (token.IsEmpty()) return;
   out.Assign(token.view().substr(1));
-  // The cut comes first and then the closing mark goes, so a text as long as the buffer loses a mark at its end.
+  // The cut comes first and then the closing mark goes, so a text as long as the buffer loses a mark at its
+  // end.
   const std::string_view kept(out.c_str());
   if (!kept.empty() && kept.back() == '"') out.Assign(kept.substr(0, kept.size() - 1));
 }

@@ -1,6 +1,6 @@
-// The fields that the statements of a DIALOG and a MENU are made of. Each reader takes what it finds at position
-// and moves behind it and the white space that follows; a field that isn't there leaves an empty result and is
-// for the caller to judge.
+// The fields that the statements of a DIALOG and a MENU are made of. Each reader takes what it finds at
+// position and moves behind it and the white space that follows; a field that isn't there leaves an empty
+// result and is for the caller to judge.
 #pragma once
 
 #include "rc/record.h"
@@ -12,7 +12,8 @@ namespace brelt::rc {
 // position nothing is consumed.
 void ParseOptionalString(const char* text, std::int32_t& position, TextBuffer out) noexcept;
 
-// word | number: an identifier as written. Consumes nothing unless a letter, digit or sign stands at position.
+// word | number: an identifier as written. Consumes nothing unless a letter, digit or sign stands at
+// position.
 void ParseOptionalId(const char* text, std::int32_t& position, TextBuffer out) noexcept;
 
 // A comma, if one stands here.
@@ -36,8 +37,8 @@ struct Rectangle {
 // expression [","] expression [","] expression [","] expression: x, y, width, height.
 Rectangle ParseCoordinates(const char* text, std::int32_t& position) noexcept;
 
-// ["," ["NOT"] word {"|" ["NOT"] word}]: changes the bits of style. A comma with a control keyword behind it is
-// a trailing comma of the statement before.
+// ["," ["NOT"] word {"|" ["NOT"] word}]: changes the bits of style. A comma with a control keyword behind it
+// is a trailing comma of the statement before.
 void ParseStyleList(const char* text, std::int32_t& position, std::uint32_t& style) noexcept;
 
 }  // namespace brelt::rc

@@ -1,5 +1,5 @@
-// The rules by which the library accepts a file name. Paths are Windows paths on every host, since RC files hold
-// Windows paths.
+// The rules by which the library accepts a file name. Paths are Windows paths on every host, since RC files
+// hold Windows paths.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +9,8 @@
 
 namespace brelt::rc {
 
-// The four parts of a path, as views into it. The directory keeps its separators at both ends, the extension its
-// point, the drive its colon.
+// The four parts of a path, as views into it. The directory keeps its separators at both ends, the extension
+// its point, the drive its colon.
 struct PathParts {
   std::string_view drive;
   std::string_view directory;
@@ -57,19 +57,21 @@ struct FileSizeWords {
 };
 
 // The size of an existing file, at most 0x7fffffff, or -1: for a null or empty name, a name with a double
-// backslash anywhere (network paths are refused on purpose), a file that can't be opened, a directory. sizeOut
-// may be null; it gets the true size, all ones on failure.
+// backslash anywhere (network paths are refused on purpose), a file that can't be opened, a directory.
+// sizeOut may be null; it gets the true size, all ones on failure.
 std::int32_t FileSizeOf(const char* name, FileSizeWords* sizeOut = nullptr) noexcept;
 
-// The current directory with a separator at its end; empty when it can't be had. Clears the whole buffer first.
+// The current directory with a separator at its end; empty when it can't be had. Clears the whole buffer
+// first.
 void CurrentDirectoryText(TextBuffer buffer) noexcept;
 
-// Finds an existing file: a full path as it stands; a bare name in the current directory and then, programs rely
-// on this order, in the folder of the module. Empty when nothing is found and for every other form of name.
+// Finds an existing file: a full path as it stands; a bare name in the current directory and then, programs
+// rely on this order, in the folder of the module. Empty when nothing is found and for every other form of
+// name.
 void FindFileNearProgram(const void* module, const char* name, TextBuffer result) noexcept;
 
-// The full path of a name against a directory that ends in a separator. Tests nothing on the disk; empty where
-// the parts don't make a full path. The result may overwrite the name.
+// The full path of a name against a directory that ends in a separator. Tests nothing on the disk; empty
+// where the parts don't make a full path. The result may overwrite the name.
 void QualifyFileName(const char* name, const char* directory, TextBuffer result) noexcept;
 
 }  // namespace brelt::rc

@@ -1,5 +1,5 @@
-// A word of at most 31 characters in lower case, packed so that two compare in a few instructions. The keyword
-// tables are searched with it once or more for every statement and style word of a DIALOG.
+// A word of at most 31 characters in lower case, packed so that two compare in a few instructions. The
+// keyword tables are searched with it once or more for every statement and style word of a DIALOG.
 #pragma once
 
 #include <array>
@@ -36,9 +36,9 @@ class FoldedName {
   std::array<std::uint64_t, 4> words_{};
 };
 
-// Searches an array of rows sorted by their member key; null when there is no such row.
+// The number of a word's row in an array sorted by the member key; Count when there is no such row.
 template <typename Row, std::size_t Count>
-constexpr const Row* FindByName(const std::array<Row, Count>& rows, std::string_view word) noexcept {
+constexpr std::size_t IndexByName(const std::array<Row, Count>& rows, std::string_view word) noexcept {
   const FoldedName sought(word);
   std::size_t low = 0;
   std::size_t high = Count;
@@ -50,7 +50,14 @@ constexpr const Row* FindByName(const std::array<Row, Count>& rows, std::string_
       high = middle;
     }
   }
-  return low < Count && rows[low].key == sought ? &rows[low] : nullptr;
+  return low < Count && rows[low].key == sought ? low : Count;
+}
+
+// The row itself; null when there is none.
+template <typename Row, std::size_t Count>
+constexpr const Row* FindByName(const std::array<Row, Count>& rows, std::string_view word) noexcept {
+  const std::size_t index = IndexByName(rows, word);
+  return index < Count ? &rows[index] : nullptr;
 }
 
 // For static_assert: sorted, and no name twice.

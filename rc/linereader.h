@@ -6,12 +6,12 @@
 
 namespace brelt::rc {
 
-// A line is what one read of at most this many characters gives, its line feed counted. A longer line arrives in
-// pieces, each a line of its own.
+// A line is what one read of at most this many characters gives, its line feed counted. A longer line arrives
+// in pieces, each a line of its own.
 inline constexpr int kLineLength = 1024;
 
-// A line within the reader's buffer, good until the next read. It is terminated and may be changed in place; a
-// zero byte in the file ends the text early, though not what is read.
+// A line within the reader's buffer, good until the next read. It is terminated and may be changed in place;
+// a zero byte in the file ends the text early, though not what is read.
 struct Line {
   char* text;
   int length;  // characters, a line feed included
@@ -28,7 +28,9 @@ class LineReader {
   // False at the end of the file.
   bool Next(Line& line) noexcept;
   // Where in the file the next line begins, for Seek.
-  std::uint64_t Offset() const noexcept { return bufferOffset_ + static_cast<std::uint64_t>(next_ - buffer_); }
+  std::uint64_t Offset() const noexcept {
+    return bufferOffset_ + static_cast<std::uint64_t>(next_ - buffer_);
+  }
   // Goes on with the line at an offset that Offset gave.
   void Seek(std::uint64_t offset) noexcept;
   // Whether a read failed, so that the end that Next reported may not be the file's.
@@ -38,13 +40,13 @@ class LineReader {
   static constexpr int kBufferSize = 32768;
 
   void Fill() noexcept;
-  bool IsStarved(const char* lineFeed) const noexcept;
+  char* FindLineFeed() const noexcept;
 
   host::File file_;
   std::uint64_t bufferOffset_ = 0;  // where in the file the buffer begins
-  char* next_ = buffer_;     // first byte not handed out
-  char* end_ = buffer_;      // behind the last byte read
-  char* terminator_ = nullptr;  // where a byte was overwritten to end the last line
+  char* next_ = buffer_;            // first byte not handed out
+  char* end_ = buffer_;             // behind the last byte read
+  char* terminator_ = nullptr;      // where a byte was overwritten to end the last line
   char overwritten_ = '\0';
   bool atEnd_ = false;
   bool failed_ = false;

@@ -1,6 +1,6 @@
-// Finds a named resource in an RC file and hands back its text, or lists what a file holds. Location is by lines:
-// it looks at the first two tokens of a line and counts BEGIN and END, which is what lets it skip the resource
-// kinds that the library can't parse, and what makes the layout of a file matter.
+// Finds a named resource in an RC file and hands back its text, or lists what a file holds. Location is by
+// lines: it looks at the first two tokens of a line and counts BEGIN and END, which is what lets it skip the
+// resource kinds that the library can't parse, and what makes the layout of a file matter.
 #pragma once
 
 #include <cstdint>
@@ -25,8 +25,8 @@ class ResourceWalk {
   void Feed(const char* line) noexcept;
 
   // What the line last fed was.
-  bool IsInside() const noexcept { return inside_; }    // belongs to a resource
-  bool IsHeader() const noexcept { return header_; }    // and is its first line
+  bool IsInside() const noexcept { return inside_; }      // belongs to a resource
+  bool IsHeader() const noexcept { return header_; }      // and is its first line
   bool IsLastLine() const noexcept { return lastLine_; }  // and is its last
   // Of the resource the line belongs to: the name as written and the keyword in upper case, each cut to 40.
   const Name& name() const noexcept { return name_; }
@@ -51,8 +51,8 @@ class ResourceWalk {
 class TypeList {
  public:
   explicit TypeList(const char* list) noexcept;
-  // Takes the keyword in upper case. It is sought with a line feed behind it as a piece of the list, so that the
-  // tail of a listed word counts as that word.
+  // Takes the keyword in upper case. It is sought with a line feed behind it as a piece of the list, so that
+  // the tail of a listed word counts as that word.
   bool Holds(const Name& keyword) const noexcept;
 
  private:
@@ -66,23 +66,23 @@ struct LineRange {
 };
 
 // Finds the resource of a name (compared without regard to case) whose keyword is in typeList, and stores its
-// text from its header line to its last, block comments blanked. The first resource of that name ends the search,
-// whatever its keyword. With the name "*" the result is a line "name,KEYWORD" for each resource of the types, in
-// file order. What doesn't fit is cut without a sign; every failure gives an empty text. lines may be null.
-// The result is the length of the text.
+// text from its header line to its last, block comments blanked. The first resource of that name ends the
+// search, whatever its keyword. With the name "*" the result is a line "name,KEYWORD" for each resource of
+// the types, in file order. What doesn't fit is cut without a sign; every failure gives an empty text. lines
+// may be null. The result is the length of the text.
 int LocateResource(const char* fileName, const char* resourceName, const char* typeList, TextBuffer out,
                    LineRange* lines = nullptr) noexcept;
 
 // Whether the second token of a resource's text is keyword, ignoring case.
 bool ResourceTypeIs(const char* text, const char* keyword) noexcept;
 
-// The file name that an ICON resource holds, at most 259 characters; empty when there is none. The result is its
-// length.
+// The file name that an ICON resource holds, at most 259 characters; empty when there is none. The result is
+// its length.
 int ResourceIconFile(const char* fileName, const char* iconName, host::Path& out) noexcept;
 
 // Removes a comment from // to the end of the line, keeping the line end. Marks between quotation marks don't
-// count; each line starts outside them. The result is the length that is left.
-int StripLineComment(char* line, int length) noexcept;
+// count; each line starts outside them.
+void StripLineComment(char* line) noexcept;
 
 // Replaces block comments by blanks, so that later lines and columns keep their numbers.
 void BlankBlockComments(char* text) noexcept;

@@ -8,7 +8,7 @@ struct Option {
   std::uint32_t bit;
 };
 constexpr Option kOptions[] = {
-    {"GRAYED", kMenuGrayed},           {"INACTIVE", kMenuInactive}, {"CHECKED", kMenuChecked},
+    {"GRAYED", kMenuGrayed},         {"INACTIVE", kMenuInactive}, {"CHECKED", kMenuChecked},
     {"MENUBARBREAK", kMenuBarBreak}, {"MENUBREAK", kMenuBreak},
 };
 

@@ -19,8 +19,8 @@ inline constexpr const char* kMenuNoMemory = "Not enough memory to create menu";
 inline constexpr const char* kMenuStringExpected = "Menu option string expected";
 inline constexpr const char* kMenuCommaExpected = "Comma expected";
 
-// {"," option}: the bits of the options. The comma must be there. Reads nothing once a failure is set, and stops
-// at a word that is no option, with "Unknown menu option: " and the word.
+// {"," option}: the bits of the options. The comma must be there. Reads nothing once a failure is set, and
+// stops at a word that is no option, with "Unknown menu option: " and the word.
 std::uint32_t ReadMenuOptions(const char* text, std::int32_t& position, Failure& failure) noexcept;
 
 }  // namespace brelt::rc

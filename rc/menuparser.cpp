@@ -64,15 +64,17 @@ void MenuParser::ParseHeader() noexcept {
     Next();
   } while (IsLoadOption(token_.view()));
   if (!IsIdentifier(menu.name.c_str())) {
-    Fail().Format("The resource string should start with the name of a MENU resource, instead <%-.*s> was found",
-                  kNameLength, menu.name.IsEmpty() ? "?" : menu.name.c_str());
+    Fail().Format(
+        "The resource string should start with the name of a MENU resource, instead <%-.*s> was found",
+        kNameLength, menu.name.IsEmpty() ? "?" : menu.name.c_str());
   } else if (!TokenIs("BEGIN")) {
     Fail().Format("Menu <%-.*s>, BEGIN is expected instead of <%-.*s>", kNameLength, MenuName(), kNameLength,
                   FoundWord());
   }
 }
 
-// "BEGIN" {item | popup | "BEGIN" | "END"}, up to the END of level 0. That a BEGIN belongs to a popup isn't tested.
+// "BEGIN" {item | popup | "BEGIN" | "END"}, up to the END of level 0. That a BEGIN belongs to a popup isn't
+// tested.
 void MenuParser::ParseElements() noexcept {
   ResourceRecord surplus;
   std::int32_t level = 0;

@@ -97,20 +97,27 @@ std::int32_t PassToken(const char* text, std::int32_t start, std::int32_t& faile
   if (first == '0' && ToLower(text[start + 1]) == 'x') return PassHexNumber(text, start);
   if (IsDigitOrSign(first)) return PassNumber(text, start, failedAt);
   switch (first) {
-    case '"': return PassString(text, start, failedAt);
-    case '[': return PassRange(text, start, failedAt);
+    case '"':
+      return PassString(text, start, failedAt);
+    case '[':
+      return PassRange(text, start, failedAt);
     case '#':
-    case '$': return PassWordChars(text, start + 1);
+    case '$':
+      return PassWordChars(text, start + 1);
     case '(':
     case ')':
     case '{':
     case '}':
     case ',':
     case '|':
-    case '.': return start + 1;
-    case '=': return text[start + 1] == '>' ? start + 2 : start + 1;
-    case '<': return text[start + 1] == '>' ? start + 2 : start;
-    default: return start;
+    case '.':
+      return start + 1;
+    case '=':
+      return text[start + 1] == '>' ? start + 2 : start + 1;
+    case '<':
+      return text[start + 1] == '>' ? start + 2 : start;
+    default:
+      return start;
   }
 }
 
@@ -128,8 +135,8 @@ class Decoded {
   char* last_;
 };
 
-// \x takes the next two bytes, whatever they are: a first that is no hexadecimal digit counts as 0, and with a
-// second that is none the first stands alone. Never reads behind the terminator.
+// \x takes the next two bytes, whatever they are: a first that is no hexadecimal digit counts as 0, and with
+// a second that is none the first stands alone. Never reads behind the terminator.
 const char* DecodeHex(const char* digits, Decoded& out) noexcept {
   if (digits[0] == '\0') {
     out.Put(0);
@@ -155,16 +162,27 @@ const char* DecodeOctal(const char* digits, Decoded& out) noexcept {
 const char* DecodeEscape(const char* letter, Decoded& out) noexcept {
   if (IsOctalDigit(*letter)) return DecodeOctal(letter, out);
   switch (*letter) {
-    case '\0': return letter;
+    case '\0':
+      return letter;
     case 'N':
-    case 'n': out.Put('\n'); break;
+    case 'n':
+      out.Put('\n');
+      break;
     case 'R':
-    case 'r': out.Put('\r'); break;
+    case 'r':
+      out.Put('\r');
+      break;
     case 'T':
-    case 't': out.Put('\t'); break;
-    case '\\': out.Put('\\'); break;
-    case 'x': return DecodeHex(letter + 1, out);
-    default: break;
+    case 't':
+      out.Put('\t');
+      break;
+    case '\\':
+      out.Put('\\');
+      break;
+    case 'x':
+      return DecodeHex(letter + 1, out);
+    default:
+      break;
   }
   return letter + 1;
 }

@@ -19,11 +19,12 @@ struct ControlStatement {
   constexpr ControlStatement(std::string_view word, std::string_view windowClass, StatementForm fieldOrder,
                              std::uint32_t ownTypeBits = 0) noexcept
       : key(word), name(word), className(windowClass), form(fieldOrder), typeBits(ownTypeBits) {
-    const StyleKeyword* row = FindStyleKeyword(word);
-    if (row == nullptr) return;
-    legal = row->legal.bits;
-    defaults = row->defaults.bits;
-    type = row->type.bits;
+    // By number: GCC's undefined-behaviour sanitizer lets no address be compared with null at compile time.
+    const std::size_t row = IndexByName(kStyleKeywordTable, word);
+    if (row == kStyleKeywordTable.size()) return;
+    legal = kStyleKeywordTable[row].legal.bits;
+    defaults = kStyleKeywordTable[row].defaults.bits;
+    type = kStyleKeywordTable[row].type.bits;
   }
 
   FoldedName key;
@@ -37,7 +38,8 @@ struct ControlStatement {
 };
 
 inline constexpr std::array<ControlStatement, 16> kControlStatements = {{
-    // The two auto buttons differ from their plain forms by type bits alone: they share their rows of style words.
+    // The two auto buttons differ from their plain forms by type bits alone: they share their rows of style
+    // words.
     {"AUTOCHECKBOX", "BUTTON", StatementForm::kText, StyleBits("BS_AUTOCHECKBOX")},
     {"AUTORADIOBUTTON", "BUTTON", StatementForm::kText, StyleBits("BS_AUTORADIOBUTTON")},
     {"CHECKBOX", "BUTTON", StatementForm::kText},
@@ -68,8 +70,8 @@ constexpr bool KeywordHasText(std::string_view keyword) noexcept {
   return row != nullptr && row->name == keyword && row->form != StatementForm::kPlain;
 }
 
-// Whether a word is the tail of a keyword or the whole of one. Case counts, and an empty word is none. That a tail
-// is enough is kept: files rely on how a comma ahead of such a word is read.
+// Whether a word is the tail of a keyword or the whole of one. Case counts, and an empty word is none. That a
+// tail is enough is kept: files rely on how a comma ahead of such a word is read.
 constexpr bool EndsAControlKeyword(std::string_view word) noexcept {
   if (word.empty()) return false;
   for (const ControlStatement& row : kControlStatements) {

@@ -6,8 +6,8 @@
 
 namespace brelt::rc {
 
-// A number and the words that make it, joined by the pipe character; "0" for none. The order of the words is part
-// of the data: a writer tries them in that order.
+// A number and the words that make it, joined by the pipe character; "0" for none. The order of the words is
+// part of the data: a writer tries them in that order.
 struct StyleAnswer {
   std::uint32_t bits;
   std::string_view words;
@@ -26,10 +26,10 @@ struct StyleKeyword {
 };
 
 inline constexpr std::array<StyleKeyword, 24> kStyleKeywordTable = {{
-    StyleKeyword("AUTOCHECKBOX",
-                 {0x18030023,
-                  "BS_AUTOCHECKBOX|BS_LEFTTEXT|BS_CHECKBOX|WS_TABSTOP|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
-                 {0x10000000, "WS_VISIBLE"}, {2, "BS_CHECKBOX"}),
+    StyleKeyword(
+        "AUTOCHECKBOX",
+        {0x18030023, "BS_AUTOCHECKBOX|BS_LEFTTEXT|BS_CHECKBOX|WS_TABSTOP|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
+        {0x10000000, "WS_VISIBLE"}, {2, "BS_CHECKBOX"}),
     StyleKeyword("AUTORADIOBUTTON",
                  {0x1803002D,
                   "BS_AUTORADIOBUTTON|BS_LEFTTEXT|BS_RADIOBUTTON|WS_TABSTOP|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
@@ -39,23 +39,19 @@ inline constexpr std::array<StyleKeyword, 24> kStyleKeywordTable = {{
                   "BB_CHECKSTYLE|BB_PUSHSTYLE|BB_RADIOSTYLE|BB_TCOL_B|BB_TCOL_G|BB_TCOL_R|BB_TCOL_Y|"
                   "BB_TRANSPARENT|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
                  {0x10000000, "WS_VISIBLE"}, {0, "0"}),
-    StyleKeyword("CHECKBOX",
-                 {0x18030023,
-                  "BS_AUTOCHECKBOX|BS_LEFTTEXT|BS_CHECKBOX|WS_TABSTOP|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
-                 {0x10000000, "WS_VISIBLE"}, {2, "BS_CHECKBOX"}),
+    StyleKeyword(
+        "CHECKBOX",
+        {0x18030023, "BS_AUTOCHECKBOX|BS_LEFTTEXT|BS_CHECKBOX|WS_TABSTOP|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
+        {0x10000000, "WS_VISIBLE"}, {2, "BS_CHECKBOX"}),
     StyleKeyword("COMBOBOX",
                  {0x18A30F03,
                   "CBS_DISABLENOSCROLL|CBS_DROPDOWNLIST|CBS_SIMPLE|CBS_DROPDOWN|CBS_HASSTRINGS|"
                   "CBS_NOINTEGRALHEIGHT|CBS_SORT|WS_BORDER|WS_VSCROLL|WS_TABSTOP|WS_GROUP|WS_DISABLED|"
                   "WS_VISIBLE"},
                  {0x10800000, "WS_BORDER|WS_VISIBLE"}, {0, "0"}),
-    StyleKeyword("CTEXT",
-                 {0x18820081,
-                  "SS_CENTER|SS_NOPREFIX|WS_BORDER|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
+    StyleKeyword("CTEXT", {0x18820081, "SS_CENTER|SS_NOPREFIX|WS_BORDER|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
                  {0x10020000, "WS_GROUP|WS_VISIBLE"}, {1, "SS_CENTER"}),
-    StyleKeyword("DEFPUSHBUTTON",
-                 {0x18030001,
-                  "BS_DEFPUSHBUTTON|WS_TABSTOP|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
+    StyleKeyword("DEFPUSHBUTTON", {0x18030001, "BS_DEFPUSHBUTTON|WS_TABSTOP|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
                  {0x10010000, "WS_TABSTOP|WS_VISIBLE"}, {1, "BS_DEFPUSHBUTTON"}),
     StyleKeyword("DIALOG",
                  {0x82CF0880,
@@ -73,46 +69,33 @@ inline constexpr std::array<StyleKeyword, 24> kStyleKeywordTable = {{
                   "EWS_ALLOWOVERWRITE|EWS_AUTOINDENT|EWS_HILITE|EWS_READONLY|EWS_SELECTALL|EWS_STATUSBAR|"
                   "EWS_TABSHIFT|EWS_NUMBERBAR"},
                  {0x0, "0"}, {0, "0"}),
-    StyleKeyword("GROUPBOX",
-                 {0x18020007,
-                  "BS_GROUPBOX|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
+    StyleKeyword("GROUPBOX", {0x18020007, "BS_GROUPBOX|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
                  {0x10000000, "WS_VISIBLE"}, {7, "BS_GROUPBOX"}),
-    StyleKeyword("ICON",
-                 {0x10000003,
-                  "SS_ICON|WS_VISIBLE"},
-                 {0x10000000, "WS_VISIBLE"}, {3, "SS_ICON"}),
+    StyleKeyword("ICON", {0x10000003, "SS_ICON|WS_VISIBLE"}, {0x10000000, "WS_VISIBLE"}, {3, "SS_ICON"}),
     StyleKeyword("ICONLIST",
                  {0x18B319CB,
                   "LBS_DISABLENOSCROLL|LBS_EXTENDEDSEL|LBS_HASSTRINGS|LBS_MULTIPLESEL|LBS_NOINTEGRALHEIGHT|"
                   "LBS_NOTIFY|LBS_SORT|LBS_STANDARD|LBS_USETABSTOPS|WS_BORDER|WS_VSCROLL|WS_HSCROLL|"
                   "WS_TABSTOP|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
                  {0x10000000, "WS_VISIBLE"}, {0, "0"}),
-    StyleKeyword("IMAGE",
-                 {0x10800000,
-                  "WS_BORDER|WS_VISIBLE"},
-                 {0x10000000, "WS_VISIBLE"}, {0, "0"}),
+    StyleKeyword("IMAGE", {0x10800000, "WS_BORDER|WS_VISIBLE"}, {0x10000000, "WS_VISIBLE"}, {0, "0"}),
     StyleKeyword("LISTBOX",
                  {0x18B319CB,
                   "LBS_DISABLENOSCROLL|LBS_EXTENDEDSEL|LBS_HASSTRINGS|LBS_MULTIPLESEL|LBS_NOINTEGRALHEIGHT|"
                   "LBS_NOTIFY|LBS_SORT|LBS_STANDARD|LBS_USETABSTOPS|WS_BORDER|WS_VSCROLL|WS_HSCROLL|"
                   "WS_TABSTOP|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
                  {0x10800000, "WS_BORDER|WS_VISIBLE"}, {1, "LBS_NOTIFY"}),
-    StyleKeyword("LTEXT",
-                 {0x1882008C,
-                  "SS_LEFT|SS_NOPREFIX|SS_LEFTNOWORDWRAP|WS_BORDER|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
-                 {0x10020000, "WS_GROUP|WS_VISIBLE"}, {0, "SS_LEFT"}),
-    StyleKeyword("MENUITEM",
-                 {0xB,
-                  "MF_CHECKED|MF_GRAYED|MF_DISABLED"},
-                 {0x0, "0"}, {0, "0"}),
+    StyleKeyword(
+        "LTEXT",
+        {0x1882008C, "SS_LEFT|SS_NOPREFIX|SS_LEFTNOWORDWRAP|WS_BORDER|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
+        {0x10020000, "WS_GROUP|WS_VISIBLE"}, {0, "SS_LEFT"}),
+    StyleKeyword("MENUITEM", {0xB, "MF_CHECKED|MF_GRAYED|MF_DISABLED"}, {0x0, "0"}, {0, "0"}),
     StyleKeyword("PROGRESSBAR",
                  {0x10800FF7,
                   "PI_BGCOL_B|PI_BGCOL_G|PI_BGCOL_R|PI_BGCOL_Y|PI_FGCOL_B|PI_FGCOL_G|PI_FGCOL_R|PI_FGCOL_Y|"
                   "PI_PERCENT|PI_VALUE|PI_VERTICAL|WS_BORDER|WS_VISIBLE"},
                  {0x10000000, "WS_VISIBLE"}, {0, "0"}),
-    StyleKeyword("PUSHBUTTON",
-                 {0x18030000,
-                  "BS_PUSHBUTTON|WS_TABSTOP|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
+    StyleKeyword("PUSHBUTTON", {0x18030000, "BS_PUSHBUTTON|WS_TABSTOP|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
                  {0x10010000, "WS_TABSTOP|WS_VISIBLE"}, {0, "BS_PUSHBUTTON"}),
     StyleKeyword("RADIOBUTTON",
                  {0x1803002D,
@@ -123,13 +106,9 @@ inline constexpr std::array<StyleKeyword, 24> kStyleKeywordTable = {{
                   "EWS_ALLOWOVERWRITE|EWS_AUTOINDENT|EWS_HILITE|EWS_READONLY|EWS_SELECTALL|EWS_STATUSBAR|"
                   "EWS_TABSHIFT|EWS_NUMBERBAR"},
                  {0x0, "0"}, {0, "0"}),
-    StyleKeyword("RTEXT",
-                 {0x18820082,
-                  "SS_RIGHT|SS_NOPREFIX|WS_BORDER|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
+    StyleKeyword("RTEXT", {0x18820082, "SS_RIGHT|SS_NOPREFIX|WS_BORDER|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
                  {0x10020000, "WS_GROUP|WS_VISIBLE"}, {2, "SS_RIGHT"}),
-    StyleKeyword("SCROLLBAR",
-                 {0x18030001,
-                  "SBS_HORZ|SBS_VERT|WS_TABSTOP|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
+    StyleKeyword("SCROLLBAR", {0x18030001, "SBS_HORZ|SBS_VERT|WS_TABSTOP|WS_GROUP|WS_DISABLED|WS_VISIBLE"},
                  {0x10000000, "WS_VISIBLE"}, {0, "SBS_HORZ"}),
     StyleKeyword("SHAPE",
                  {0x1000FFFF,

@@ -13,10 +13,17 @@ std::uint32_t StyleQuery(const char* keyword, int query, TextBuffer words) noexc
   StyleAnswer answer{0, "0"};
   if (const StyleKeyword* row = FindStyleKeyword(View(keyword)); row != nullptr) {
     switch (query) {
-      case kLegalWords: answer = row->legal; break;
-      case kDefaultWords: answer = row->defaults; break;
-      case kTypeWord: answer = row->type; break;
-      default: break;
+      case kLegalWords:
+        answer = row->legal;
+        break;
+      case kDefaultWords:
+        answer = row->defaults;
+        break;
+      case kTypeWord:
+        answer = row->type;
+        break;
+      default:
+        break;
     }
   }
   words.Zero();

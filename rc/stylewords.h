@@ -1,7 +1,7 @@
-// The style words of RC text and their numbers. The numbers of the WS_, DS_, BS_, CBS_, ES_, LBS_, SBS_, SS_ and MF_
-// words are the Windows SDK's; the BB_, EWS_, PI_ and SH_ words are this library's own, for its own control types.
-// A word of a later Windows than the table's is an unknown word, and the table is not to be widened: what a file
-// meant yesterday it means tomorrow.
+// The style words of RC text and their numbers. The numbers of the WS_, DS_, BS_, CBS_, ES_, LBS_, SBS_, SS_
+// and MF_ words are the Windows SDK's; the BB_, EWS_, PI_ and SH_ words are this library's own, for its own
+// control types. A word of a later Windows than the table's is an unknown word, and the table is not to be
+// widened: what a file meant yesterday it means tomorrow.
 #pragma once
 
 #include "rc/foldedname.h"
@@ -189,9 +189,9 @@ consteval std::uint32_t StyleBits(std::string_view words) {
   }
 }
 
-// The number of a style word: a text that begins with 0x or 0X as far as its hexadecimal digits go, otherwise the
-// word's row in the table, ignoring case. 0 for anything else, decimal numbers included: an unknown word can't be
-// told from a word of value 0.
+// The number of a style word: a text that begins with 0x or 0X as far as its hexadecimal digits go, otherwise
+// the word's row in the table, ignoring case. 0 for anything else, decimal numbers included: an unknown word
+// can't be told from a word of value 0.
 std::uint32_t StyleWordValue(std::string_view word) noexcept;
 
 }  // namespace brelt::rc

@@ -87,7 +87,8 @@ void TokenPlaceText(const char* text, std::int32_t position, TextBuffer out) noe
   while (at > 0 && IsSpace(text[at - 1])) --at;
   while (at > 0 && !IsSpace(text[at - 1])) --at;
   const Place place = LineAndColumn(text, at);
-  TextWriter(out).Format("(Line %ld, col %ld)", static_cast<long>(place.line), static_cast<long>(place.column));
+  TextWriter(out).Format("(Line %ld, col %ld)", static_cast<long>(place.line),
+                         static_cast<long>(place.column));
 }
 
 void BadWordText(const char* text, std::int32_t& position, TextBuffer out) noexcept {

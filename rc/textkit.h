@@ -7,8 +7,8 @@
 
 namespace brelt::rc {
 
-// A letter or '_', then letters, digits and '_'. More generous than the scanner, which reads no word that begins
-// with '_'.
+// A letter or '_', then letters, digits and '_'. More generous than the scanner, which reads no word that
+// begins with '_'.
 bool IsIdentifier(const char* text) noexcept;
 
 // An optional sign and at least one digit, nothing else.

@@ -1,7 +1,8 @@
-// The core's host for tests: files in memory under Windows paths, and memory and file operations that fail when
-// told to.
+// The core's host for tests: files in memory under Windows paths, and memory and file operations that fail
+// when told to.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,12 @@ std::vector<std::string> ListFiles();
 void SetReadOnly(const std::string& path, bool readOnly);
 void SetCurrentDirectory(const std::string& path);
 void SetProgramPath(const std::string& path);
+void SetModulePath(const void* module, const std::string& path);
+// What a query for the size of an existing file answers from now on.
+void PretendSize(const std::string& path, std::uint64_t size);
+
+// The most bytes that a read of a file gives at once.
+void LimitReads(int bytes);
 
 // Failures. Operations are counted from the call on; the n-th (from 0) fails, and with stay all behind it.
 void FailAllocation(int n);
