@@ -7,7 +7,9 @@
 namespace brelt {
 namespace {
 
-bool IsUsable(HWND window) noexcept { return IsWindow(window) && IsWindowVisible(window) && IsWindowEnabled(window); }
+bool IsUsable(HWND window) noexcept {
+  return IsWindow(window) && IsWindowVisible(window) && IsWindowEnabled(window);
+}
 
 bool IsTabStop(HWND child) noexcept {
   constexpr std::uint32_t kLooked = WS_TABSTOP | WS_VISIBLE | WS_DISABLED;
@@ -18,7 +20,9 @@ bool IsDefaultButton(HWND child) noexcept {
   return ClassMatches(child, "BUTTON") && TypeBitsOf(child) == BS_DEFPUSHBUTTON;
 }
 
-bool IsPushButton(HWND child) noexcept { return ClassMatches(child, "BUTTON") && TypeBitsOf(child) <= BS_DEFPUSHBUTTON; }
+bool IsPushButton(HWND child) noexcept {
+  return ClassMatches(child, "BUTTON") && TypeBitsOf(child) <= BS_DEFPUSHBUTTON;
+}
 
 void SetButtonStyle(HWND button, DWORD style) noexcept { SendMessageA(button, BM_SETSTYLE, style, TRUE); }
 
@@ -37,8 +41,8 @@ void MoveDefaultLook(HWND window, HWND target) noexcept {
     if (IsDefaultButton(child)) SetButtonStyle(child, BS_PUSHBUTTON);
   });
   if (IsPushButton(target)) return SetButtonStyle(target, BS_DEFPUSHBUTTON);
-  // The answer is an id with a mark and no window, so that as a rule the default look isn't given back. Programs
-  // are used to a form whose default button looks plain while the focus is elsewhere.
+  // The answer is an id with a mark and no window, so that as a rule the default look isn't given back.
+  // Programs are used to a form whose default button looks plain while the focus is elsewhere.
   const auto answer = reinterpret_cast<HWND>(SendMessageA(window, DM_GETDEFID, 0, 0));
   if (IsUsable(answer)) SetButtonStyle(answer, BS_DEFPUSHBUTTON);
 }

@@ -1,5 +1,5 @@
-// A window's named strings: a block of entries of the form key=value, each terminated, with an empty entry at the
-// end. Keys are compared without regard to case.
+// A window's named strings: a block of entries of the form key=value, each terminated, with an empty entry at
+// the end. Keys are compared without regard to case.
 #pragma once
 
 #include <cstddef>
@@ -21,8 +21,8 @@ ArrayPlace LocateArrayValue(const char* block, const char* key) noexcept;
 // The value of a key within the block, or null.
 const char* FindArrayValue(const char* block, const char* key) noexcept;
 
-// A copy of a block with a value added, or replaced where the key stands; empty when memory couldn't be had. An
-// entry longer than 1024 characters is cut.
+// A copy of a block with a value added, or replaced where the key stands; empty when memory couldn't be had.
+// An entry longer than 1024 characters is cut.
 host::Block<char> WithArrayValue(const char* block, const char* key, const char* value) noexcept;
 
 // A copy of a block; empty when memory couldn't be had.

@@ -1,5 +1,6 @@
-// The window procedure of the message, input and list boxes. The caller of a box waits in a loop of its own; what it
-// gets is written through pointers that the box's slots hold, so that it is there when the window is gone.
+// The window procedure of the message, input and list boxes. The caller of a box waits in a loop of its own;
+// what it gets is written through pointers that the box's slots hold, so that it is there when the window is
+// gone.
 #include "forms/closing.h"
 #include "forms/focus.h"
 #include "forms/modal.h"
@@ -26,7 +27,8 @@ void StoreResult(int32_t* result, int32_t value) noexcept {
 }
 
 void StoreRectangle(HWND box) noexcept {
-  if (auto* rectangle = ReadPointer<RECT>(box, kRectangleSlot); rectangle != nullptr) GetWindowRect(box, rectangle);
+  if (auto* rectangle = ReadPointer<RECT>(box, kRectangleSlot); rectangle != nullptr)
+    GetWindowRect(box, rectangle);
 }
 
 // The selection of a list box, the text of an input box; a message box has neither.
@@ -34,7 +36,8 @@ void StoreContent(HWND box) noexcept {
   void* content = ReadPointer<void>(box, kContentSlot);
   if (content == nullptr) return;
   if (ClassMatches(box, kListBoxClass)) {
-    *static_cast<int32_t*>(content) = static_cast<int32_t>(SendDlgItemMessageA(box, kContentId, LB_GETCURSEL, 0, 0));
+    *static_cast<int32_t*>(content) =
+        static_cast<int32_t>(SendDlgItemMessageA(box, kContentId, LB_GETCURSEL, 0, 0));
   } else if (ClassMatches(box, kInputBoxClass)) {
     const rc::TextBuffer text(static_cast<char*>(content), ReadSlot(box, kContentSizeSlot));
     if (text.IsWritable()) GetDlgItemTextA(box, kContentId, text.data(), text.size());

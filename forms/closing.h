@@ -5,8 +5,8 @@
 
 namespace brelt {
 
-// Reactivates the window this one came from, takes the tooltip window away, destroys the window and wakes the main
-// loop, so that it sees that a window went.
+// Reactivates the window this one came from, takes the tooltip window away, destroys the window and wakes the
+// main loop, so that it sees that a window went.
 void CloseWindowObject(HWND window) noexcept;
 
 // Posts a message that makes a waiting loop look again.

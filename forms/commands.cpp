@@ -22,11 +22,12 @@ void Raise(const Command& command, std::uint32_t event) noexcept {
 
 void RefuseByBeep() noexcept { MessageBeep(static_cast<UINT>(-1)); }
 
-// Ids 1 to 9 belong to the common identifiers: a menu item with one of them is silent unless a control has it, too.
-// Forms use such items for the platform's own keys.
+// Ids 1 to 9 belong to the common identifiers: a menu item with one of them is silent unless a control has
+// it, too. Forms use such items for the platform's own keys.
 void FromMenu(const Command& command) noexcept {
   constexpr std::int32_t kLastCommonId = 9;
-  if (command.id > kLastCommonId || GetDlgItem(command.window, command.id) != nullptr) Raise(command, EV_CLICK);
+  if (command.id > kLastCommonId || GetDlgItem(command.window, command.id) != nullptr)
+    Raise(command, EV_CLICK);
 }
 
 void FromButton(const Command& command) noexcept {
@@ -40,8 +41,10 @@ void FromButton(const Command& command) noexcept {
       // Once for the button that is turned on, not for the one that goes off.
       if (SendMessageA(command.control, BM_GETCHECK, 0, 0) == BST_CHECKED) Raise(command, EV_CLICK);
       return;
-    case BS_AUTOCHECKBOX: return Raise(command, EV_CLICK);
-    default: return;
+    case BS_AUTOCHECKBOX:
+      return Raise(command, EV_CLICK);
+    default:
+      return;
   }
 }
 
@@ -57,8 +60,10 @@ void FromRichEdit(const Command& command) noexcept {
       if (IsRicheditwindow(command.window)) RaiseEvent(command.window, EV_CHANGE, 0, 0);
       return;
     case EN_ERRSPACE:
-    case EN_MAXTEXT: return RefuseByBeep();
-    default: return;
+    case EN_MAXTEXT:
+      return RefuseByBeep();
+    default:
+      return;
   }
 }
 
@@ -91,8 +96,10 @@ struct CommandRoute {
 };
 
 constexpr CommandRoute kCommandRoutes[] = {
-    {"BUTTON", FromButton}, {"Bitmapbutton.*", FromBitmapButton}, {"RICHEDIT*", FromRichEdit}, {"EDIT", FromEdit},
-    {"LISTBOX", FromList},  {"Iconlist.*", FromList},             {"COMBOBOX", FromComboBox},
+    {"BUTTON", FromButton},      {"Bitmapbutton.*", FromBitmapButton},
+    {"RICHEDIT*", FromRichEdit}, {"EDIT", FromEdit},
+    {"LISTBOX", FromList},       {"Iconlist.*", FromList},
+    {"COMBOBOX", FromComboBox},
 };
 
 }  // namespace

@@ -16,7 +16,8 @@ std::uint64_t Now() noexcept {
   return std::uint64_t{units.dwHighDateTime} << 32 | units.dwLowDateTime;
 }
 
-// Waits for the next character; false when the time is up. It waits actively: the rest was posted with the first.
+// Waits for the next character; false when the time is up. It waits actively: the rest was posted with the
+// first.
 bool NextCharacter(HWND window, std::uint64_t start, char& character) noexcept {
   while (Now() - start <= kWaitUnits) {
     MSG next;

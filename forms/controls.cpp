@@ -60,7 +60,8 @@ class ControlMaker {
   void Make(const ResourceRecord& element, WindowRow& row) noexcept {
     ResourceRecord record = element;
     OwnedIcon icon;
-    if (record.className.view() == "STATIC" && (record.style & 0xF) == kIconType) icon = LoadControlIcon(record);
+    if (record.className.view() == "STATIC" && (record.style & 0xF) == kIconType)
+      icon = LoadControlIcon(record);
     const std::int32_t id = ResolveId(record);
     ClassName windowClass;
     OwnedModule module;
@@ -95,8 +96,8 @@ class ControlMaker {
   Failure& failure_;
 };
 
-// The icon of an ICON control. Its text names a resource of the RC file, which names a file; the text then goes,
-// so that the control doesn't look for a resource of its own.
+// The icon of an ICON control. Its text names a resource of the RC file, which names a file; the text then
+// goes, so that the control doesn't look for a resource of its own.
 OwnedIcon ControlMaker::LoadControlIcon(ResourceRecord& record) noexcept {
   const FixedText<255> iconName = record.text;
   record.text.Clear();
@@ -106,9 +107,10 @@ OwnedIcon ControlMaker::LoadControlIcon(ResourceRecord& record) noexcept {
   file.Assign(TrimBlanks(file.view()));
   rc::QualifyFileName(file.c_str(), rcFolder_.c_str(), file);
   if (file.IsEmpty()) {
-    failure_.Format(RTX_ICON_FILE,
-                    "Dialog <%-.*s>, Icon <%-.*s> contains an invalid filename, or is not in the resource file",
-                    rc::kNameLength, DialogName(), rc::kNameLength, record.name.c_str());
+    failure_.Format(
+        RTX_ICON_FILE,
+        "Dialog <%-.*s>, Icon <%-.*s> contains an invalid filename, or is not in the resource file",
+        rc::kNameLength, DialogName(), rc::kNameLength, record.name.c_str());
     return {};
   }
   const HICON icon = ExtractIconA(instance_, file.c_str(), 0);
@@ -126,14 +128,16 @@ std::int32_t ControlMaker::ResolveId(const ResourceRecord& record) noexcept {
     if (id < 1) id = rc::FindSymbolValue(source_.symbols, name);
   }
   if (id == 0) {
-    failure_.Format(RTX_UNDEFINED_ID, "Dialog <%-.*s>, Control Type <%-.*s>, Control i/d <%-.*s> is undefined",
-                    rc::kNameLength, DialogName(), rc::kNameLength, OrQuestionMark(record.keyword.c_str()),
-                    rc::kNameLength, OrQuestionMark(name));
+    failure_.Format(RTX_UNDEFINED_ID,
+                    "Dialog <%-.*s>, Control Type <%-.*s>, Control i/d <%-.*s> is undefined", rc::kNameLength,
+                    DialogName(), rc::kNameLength, OrQuestionMark(record.keyword.c_str()), rc::kNameLength,
+                    OrQuestionMark(name));
   }
   return id;
 }
 
-// Finds the window class; for a custom control also its module, which stays loaded as long as the owner is kept.
+// Finds the window class; for a custom control also its module, which stays loaded as long as the owner is
+// kept.
 OwnedModule ControlMaker::SettleClass(ResourceRecord& record, ClassName& windowClass) noexcept {
   if (IsStandardClass(record.className.view())) {
     windowClass.Assign(record.className.view().substr(0, kWindowClassLength));
@@ -151,10 +155,11 @@ OwnedModule ControlMaker::SettleClass(ResourceRecord& record, ClassName& windowC
   GetClassInfoExA(module.get(), windowClass.c_str(), &info);
   // A class that isn't there leaves no procedure, which is a bad one, too.
   if (IsBadCodePtr(reinterpret_cast<FARPROC>(reinterpret_cast<UINT_PTR>(info.lpfnWndProc)))) {
-    failure_.Format(RTX_CONTROL_DLL, "Dialog <%-.*s>, Control Type <%-.*s>, DLL <%-.*s> has an invalid WNDPROC",
-                    rc::kNameLength, DialogName(), rc::kNameLength, record.className.c_str(), 80,
-                    moduleFile.c_str());
-    // Stays loaded until the process ends: what a module with a broken class does when it goes is anyone's guess.
+    failure_.Format(
+        RTX_CONTROL_DLL, "Dialog <%-.*s>, Control Type <%-.*s>, DLL <%-.*s> has an invalid WNDPROC",
+        rc::kNameLength, DialogName(), rc::kNameLength, record.className.c_str(), 80, moduleFile.c_str());
+    // Stays loaded until the process ends: what a module with a broken class does when it goes is anyone's
+    // guess.
     module.release();
     return {};
   }
@@ -177,13 +182,13 @@ OwnedModule ControlMaker::LoadModule(const ResourceRecord& record, const char* m
   }
   if (reinterpret_cast<UINT_PTR>(module) >= kLowestModule) return OwnedModule(module);
   failure_.Format(RTX_CONTROL_DLL, "Dialog <%-.*s>, Control Type <%-.*s>, Cannot load DLL <%-.*s>",
-                  rc::kNameLength, DialogName(), rc::kNameLength, record.className.c_str(), rc::kShownPathLength,
-                  OrQuestionMark(moduleFile));
+                  rc::kNameLength, DialogName(), rc::kNameLength, record.className.c_str(),
+                  rc::kShownPathLength, OrQuestionMark(moduleFile));
   return {};
 }
 
-// Makes the picture file's path absolute, so that it is found whatever the current directory is. The text may go on
-// with a line feed and a hint, which stays.
+// Makes the picture file's path absolute, so that it is found whatever the current directory is. The text may
+// go on with a line feed and a hint, which stays.
 void ControlMaker::QualifyPicture(ResourceRecord& record) noexcept {
   const std::string_view text = record.text.view();
   const std::size_t lineFeed = text.find('\n');
@@ -194,7 +199,8 @@ void ControlMaker::QualifyPicture(ResourceRecord& record) noexcept {
   record.text.Append(hint.view());
 }
 
-HWND ControlMaker::Create(const ResourceRecord& record, const ClassName& windowClass, std::int32_t id) noexcept {
+HWND ControlMaker::Create(const ResourceRecord& record, const ClassName& windowClass,
+                          std::int32_t id) noexcept {
   std::uint32_t style = record.style | WS_CHILD;
   std::uint32_t exStyle = 0;
   if (IsStandardClass(record.className.view()) && (style & WS_BORDER) != 0) {
@@ -232,7 +238,8 @@ void ControlMaker::Furnish(HWND control, const ResourceRecord& record, OwnedIcon
 
 }  // namespace
 
-void CreateControls(const ControlSource& source, HWND window, WindowRecord record, Failure& failure) noexcept {
+void CreateControls(const ControlSource& source, HWND window, WindowRecord record,
+                    Failure& failure) noexcept {
   ControlMaker maker(source, window, failure);
   for (int i = 1; i < rc::kRecordCount && !failure; ++i) {
     const ResourceRecord& element = *source.records[i];
@@ -242,7 +249,9 @@ void CreateControls(const ControlSource& source, HWND window, WindowRecord recor
 }
 
 void ReleaseControlIcons(HWND window) noexcept {
-  ForEachChild(window, [](HWND child) { const OwnedIcon icon(static_cast<HICON>(RemovePropA(child, kIconProperty))); });
+  ForEachChild(window, [](HWND child) {
+    const OwnedIcon icon(static_cast<HICON>(RemovePropA(child, kIconProperty)));
+  });
 }
 
 }  // namespace brelt

@@ -14,14 +14,17 @@ constexpr bool LeavesCursor(std::uint32_t event) noexcept {
     case EV_KEYPRESS:
     case EV_RESIZE:
     case EV_SELCHANGE:
-    case EV_TIMER: return true;
-    default: return false;
+    case EV_TIMER:
+      return true;
+    default:
+      return false;
   }
 }
 
 }  // namespace
 
-std::int32_t RaiseEvent(HWND window, std::uint32_t event, std::uint32_t wParam, std::int32_t lParam) noexcept {
+std::int32_t RaiseEvent(HWND window, std::uint32_t event, std::uint32_t wParam,
+                        std::int32_t lParam) noexcept {
   const auto function = reinterpret_cast<EventFunction>(ReadSlot(window, SLOT_FUNCPTR));
   if (function == nullptr) return 0;
   if (LeavesCursor(event)) return function(window, event, wParam, lParam);

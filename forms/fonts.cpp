@@ -35,7 +35,8 @@ int LetterBaseUnit(HDC dc) noexcept {
 
 BaseUnits FontBaseUnits(HFONT font) noexcept {
   const OwnedDc display = DisplayContext();
-  const Selected selected(display.get(), font != nullptr ? static_cast<HGDIOBJ>(font) : GetStockObject(SYSTEM_FONT));
+  const Selected selected(display.get(),
+                          font != nullptr ? static_cast<HGDIOBJ>(font) : GetStockObject(SYSTEM_FONT));
   TEXTMETRICA metrics = {};
   GetTextMetricsA(display.get(), &metrics);
   // Despite its name the bit is set for fonts of variable pitch.

@@ -1,5 +1,5 @@
-// The message handlers that window procedures route to, one per message. A handler may find its window gone after
-// any call that reaches the program: an event, or a message to a window that isn't the library's.
+// The message handlers that window procedures route to, one per message. A handler may find its window gone
+// after any call that reaches the program: an event, or a message to a window that isn't the library's.
 #pragma once
 
 #include "forms/route.h"

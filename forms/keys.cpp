@@ -26,8 +26,8 @@ bool IsPlainKey(WPARAM key) noexcept {
          (key >= VK_F1 && key <= VK_F12);
 }
 
-// The id of the control with the focus. A window that has it itself has no id; what the platform would give for one
-// is its menu.
+// The id of the control with the focus. A window that has it itself has no id; what the platform would give
+// for one is its menu.
 int FocusId(HWND window) noexcept {
   HWND focus = GetFocus();
   return IsDialog(window) && (StyleOf(focus) & WS_CHILD) != 0 ? GetDlgCtrlID(focus) : 0;
@@ -56,18 +56,24 @@ bool PreviewKey(HWND window, WPARAM key) noexcept {
   }
   if (held.None() && IsPlainKey(key)) return SendKey(window, static_cast<LPARAM>(key));
   if (held.None() && key == VK_ESCAPE) return PreviewEscape(window);
-  if (held.ControlOnly() && key >= 'A' && key <= 'Z') return SendKey(window, kControlKey | static_cast<LPARAM>(key));
+  if (held.ControlOnly() && key >= 'A' && key <= 'Z')
+    return SendKey(window, kControlKey | static_cast<LPARAM>(key));
   return false;
 }
 
 // The modifier entries test their own key only, so that one for Ctrl also takes Ctrl with Shift.
 bool AppliesTo(std::uint8_t flags, const Modifiers& held) noexcept {
   switch (flags & ~rc::kAccelNoInvert) {
-    case 0: return held.None();
-    case rc::kAccelShift: return held.shift;
-    case rc::kAccelControl: return held.control;
-    case rc::kAccelAlt: return held.alt;
-    default: return false;
+    case 0:
+      return held.None();
+    case rc::kAccelShift:
+      return held.shift;
+    case rc::kAccelControl:
+      return held.control;
+    case rc::kAccelAlt:
+      return held.alt;
+    default:
+      return false;
   }
 }
 
@@ -132,7 +138,8 @@ bool KeyPreview(HWND window, const MSG& message) noexcept {
 
 bool MenuKeys(HWND window, const rc::AcceleratorRow* table, const MSG& message) noexcept {
   const bool hasMenu = IsWindow(window) && GetMenu(window) != nullptr;
-  if (hasMenu && table != nullptr && IsKeyDown(message) && WorkAccelerator(window, table, message.wParam)) return true;
+  if (hasMenu && table != nullptr && IsKeyDown(message) && WorkAccelerator(window, table, message.wParam))
+    return true;
   // F10 alone would open the menu.
   if (message.message == WM_SYSKEYDOWN && message.wParam == VK_F10 && Modifiers().None()) return true;
   // Alt let go in another window of the program goes to the main window's menu.

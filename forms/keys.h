@@ -7,8 +7,8 @@
 
 namespace brelt {
 
-// Raises EV_KEYPRESS for the keys that programs hear of. Whether the key is used up; it is, too, when the window is
-// gone afterwards.
+// Raises EV_KEYPRESS for the keys that programs hear of. Whether the key is used up; it is, too, when the
+// window is gone afterwards.
 bool KeyPreview(HWND window, const MSG& message) noexcept;
 
 // Works the keys of a window's menu; the table may be null. Whether the key is used up.

@@ -34,8 +34,10 @@ void ReadDialog(const LoadRequest& request, const char* path, Workspace& work, F
                    "Resource file <%-.*s> should be a full path with a drive letter or just a filename",
                    rc::kShownPathLength, request.rcFile != nullptr ? request.rcFile : "");
   } else if (rc::FileSizeOf(path) < 0) {
-    failure.Format(RTX_RESOURCE_FILE, "Resource file <%-.*s> is invalid or missing.", rc::kShownPathLength, path);
-  } else if (rc::LocateResource(path, request.name, "DIALOG", {work.text.get(), rc::kResourceTextSize}) == 0) {
+    failure.Format(RTX_RESOURCE_FILE, "Resource file <%-.*s> is invalid or missing.", rc::kShownPathLength,
+                   path);
+  } else if (rc::LocateResource(path, request.name, "DIALOG", {work.text.get(), rc::kResourceTextSize}) ==
+             0) {
     failure.Set(RTX_NO_DIALOG, "Resource file does not contain a DIALOG resource named: ", request.name);
   }
   if (failure) return;
@@ -75,11 +77,13 @@ void FinishWindow(HWND window, const LoadRequest& request, const char* path, Wor
   if (failure) return;
   TrimSystemMenu(window);
   if (rc::IsEmpty(request.arrayValues)) return;
-  const LRESULT code = SendMessageA(window, XM_SETARRAYVALUES, 0, reinterpret_cast<LPARAM>(request.arrayValues));
+  const LRESULT code =
+      SendMessageA(window, XM_SETARRAYVALUES, 0, reinterpret_cast<LPARAM>(request.arrayValues));
   if (code != RTX_OK) failure.Set(static_cast<std::int32_t>(code), "");
 }
 
-// Makes a window with all it needs; null with a failure. The working memory is gone again before anybody hears of it.
+// Makes a window with all it needs; null with a failure. The working memory is gone again before anybody
+// hears of it.
 HWND MakeWindow(const LoadRequest& request, Failure& failure) noexcept {
   Workspace work;
   if (!work.IsComplete()) {
@@ -96,7 +100,8 @@ HWND MakeWindow(const LoadRequest& request, Failure& failure) noexcept {
   rc::LoadSymbols(path.c_str(), nullptr, 0, {work.symbols.get(), work.symbols.count()}, ignored);
   const rc::SymbolIndex symbols({work.symbols.get(), work.symbols.count()});
   OwnedWindow window(CreateTopWindow(
-      {request.instance, request.name, symbols, work.records.table(), request.eventFunction, path.c_str()}, failure));
+      {request.instance, request.name, symbols, work.records.table(), request.eventFunction, path.c_str()},
+      failure));
   if (!window) return nullptr;
   FinishWindow(window.get(), request, path.c_str(), work, symbols, failure);
   return failure ? nullptr : window.release();

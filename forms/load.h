@@ -14,8 +14,8 @@ struct LoadRequest {
   const char* arrayValues;
 };
 
-// What Load does apart from the trace and the caller's message buffer. window may be null; it is written only when a
-// window was made.
+// What Load does apart from the trace and the caller's message buffer. window may be null; it is written only
+// when a window was made.
 void LoadWindow(const LoadRequest& request, HWND* window, rc::Failure& failure) noexcept;
 
 }  // namespace brelt

@@ -56,8 +56,8 @@ const rc::AcceleratorRow* KeyTableOf(HWND window) noexcept {
 
 // Gives a message to its window by way of the dialog keys, if the window that has the keyboard takes them.
 void DeliverMessage(HWND keyboardWindow, MSG& message) noexcept {
-  const bool hasDialogKeys =
-      IsWindow(keyboardWindow) && !IsAnyEditwindow(keyboardWindow) && FirstTabChild(keyboardWindow) != nullptr;
+  const bool hasDialogKeys = IsWindow(keyboardWindow) && !IsAnyEditwindow(keyboardWindow) &&
+                             FirstTabChild(keyboardWindow) != nullptr;
   if (hasDialogKeys && IsDialogMessageA(keyboardWindow, &message)) return;
   TranslateMessage(&message);
   DispatchMessageA(&message);

@@ -33,7 +33,9 @@ void EnableSet(HWND window, const ModalSet& set, BOOL enable) noexcept {
 
 }  // namespace
 
-bool IsModalWindow(HWND window) noexcept { return IsWindowVisible(window) && (FlagsOf(window) & WF_MODAL) != 0; }
+bool IsModalWindow(HWND window) noexcept {
+  return IsWindowVisible(window) && (FlagsOf(window) & WF_MODAL) != 0;
+}
 
 void EnterModal(HWND window, ModalSet& set) noexcept {
   WritePointer(window, SLOT_PREVACTIVE, PreviousWindow(window));
@@ -67,7 +69,8 @@ void ShowInPlace(HWND window) noexcept {
 BOOL __stdcall Enum_GetEnabledWindows(HWND window, LPARAM context) {
   auto* set = reinterpret_cast<brelt::ModalSet*>(context);
   if (set == nullptr || set->count >= brelt::kModalSetSize) return FALSE;
-  if (IsWindowEnabled(window) && (brelt::StyleOf(window) & WS_CHILD) == 0) set->windows[set->count++] = window;
+  if (IsWindowEnabled(window) && (brelt::StyleOf(window) & WS_CHILD) == 0)
+    set->windows[set->count++] = window;
   return TRUE;
 }
 

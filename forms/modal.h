@@ -22,8 +22,8 @@ void EnterModal(HWND window, ModalSet& set) noexcept;
 // Enables the windows of the set again, as far as they exist.
 void LeaveModal(HWND window, const ModalSet& set) noexcept;
 
-// Goes back to the window that was active when a modal window was shown. It runs before the modal one goes, so
-// that no window of another program comes to the front.
+// Goes back to the window that was active when a modal window was shown. It runs before the modal one goes,
+// so that no window of another program comes to the front.
 void ReactivatePrevious(HWND window) noexcept;
 
 // Shows a window where it stands and has it painted.

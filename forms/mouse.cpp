@@ -11,8 +11,8 @@ namespace {
 
 POINT PointOf(LPARAM lParam) noexcept { return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}; }
 
-// The child at a point in client coordinates. Of several the last one wins, and hidden and disabled ones count: a
-// program hears of a click on a disabled button.
+// The child at a point in client coordinates. Of several the last one wins, and hidden and disabled ones
+// count: a program hears of a click on a disabled button.
 HWND ChildAt(HWND window, POINT point) noexcept {
   HWND found = nullptr;
   ForEachChild(window, [&](HWND child) {
@@ -65,7 +65,8 @@ LRESULT OnSetCursor(const Message& message) noexcept {
   const auto control = reinterpret_cast<HWND>(message.wParam);
   if (IsDialog(message.window) && ClassMatches(control, "Bitmapbutton.*")) {
     rc::FixedText<255> hint;
-    const LRESULT length = SendMessageA(control, CM_GETHINT, hint.kCapacity, reinterpret_cast<LPARAM>(hint.data()));
+    const LRESULT length =
+        SendMessageA(control, CM_GETHINT, hint.kCapacity, reinterpret_cast<LPARAM>(hint.data()));
     hint.data()[hint.kCapacity] = '\0';
     if (length > 0) ShowTooltip(message.window, control, hint.c_str());
   }

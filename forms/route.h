@@ -1,5 +1,5 @@
-// A window procedure only routes: it finds the message in a table and calls its handler. What is in no table goes
-// to the platform's default.
+// A window procedure only routes: it finds the message in a table and calls its handler. What is in no table
+// goes to the platform's default.
 #pragma once
 
 #include <windows.h>

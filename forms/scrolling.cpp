@@ -11,15 +11,23 @@ int ScrolledTo(WORD code, WORD thumb, int position, int low, int high) noexcept 
   const int page = (high - low) / 20;
   const auto within = [&](int wanted) { return wanted < low ? low : wanted > high ? high : wanted; };
   switch (code) {
-    case SB_LINEUP: return within(position - 1);
-    case SB_LINEDOWN: return within(position + 1);
-    case SB_PAGEUP: return within(position - page);
-    case SB_PAGEDOWN: return within(position + page);
+    case SB_LINEUP:
+      return within(position - 1);
+    case SB_LINEDOWN:
+      return within(position + 1);
+    case SB_PAGEUP:
+      return within(position - page);
+    case SB_PAGEDOWN:
+      return within(position + page);
     case SB_THUMBPOSITION:
-    case SB_THUMBTRACK: return static_cast<SHORT>(thumb);
-    case SB_TOP: return low;
-    case SB_BOTTOM: return high;
-    default: return position;
+    case SB_THUMBTRACK:
+      return static_cast<SHORT>(thumb);
+    case SB_TOP:
+      return low;
+    case SB_BOTTOM:
+      return high;
+    default:
+      return position;
   }
 }
 
@@ -32,7 +40,8 @@ LRESULT OnScroll(const Message& message) noexcept {
   int high = 0;
   GetScrollRange(bar, SB_CTL, &low, &high);
   const WORD code = LOWORD(message.wParam);
-  SetScrollPos(bar, SB_CTL, ScrolledTo(code, HIWORD(message.wParam), GetScrollPos(bar, SB_CTL), low, high), TRUE);
+  SetScrollPos(bar, SB_CTL, ScrolledTo(code, HIWORD(message.wParam), GetScrollPos(bar, SB_CTL), low, high),
+               TRUE);
   if (code == SB_ENDSCROLL && GetKeyState(VK_LBUTTON) >= 0) {
     RaiseEvent(message.window, EV_CHANGE, static_cast<std::uint32_t>(GetDlgCtrlID(bar)), 0);
   }

@@ -24,8 +24,8 @@ HWND FindOrLoad(const LoadRequest& request, HWND* window, int32_t& code) noexcep
 
 int32_t ShowModeless(HWND window) noexcept {
   HWND active = GetActiveWindow();
-  const bool modalInTheWay = IsModalWindow(active) && GetWindowLongA(active, GWL_HINSTANCE) ==
-                                                          GetWindowLongA(window, GWL_HINSTANCE);
+  const bool modalInTheWay =
+      IsModalWindow(active) && GetWindowLongA(active, GWL_HINSTANCE) == GetWindowLongA(window, GWL_HINSTANCE);
   if (modalInTheWay) return RTX_SHOW_MODELESS;
   ShowInPlace(window);
   return RTX_OK;
@@ -47,7 +47,8 @@ int32_t ShowWindowObject(const LoadRequest& request, HWND* window, bool modal, i
   int32_t code = RTX_OK;
   HWND found = FindOrLoad(request, window, code);
   if (found == nullptr) return code;
-  if (request.instance == nullptr || request.name == nullptr || request.rcFile == nullptr || !IsWindowEnabled(found)) {
+  if (request.instance == nullptr || request.name == nullptr || request.rcFile == nullptr ||
+      !IsWindowEnabled(found)) {
     return modal ? RTX_SHOW_MODAL : RTX_SHOW_MODELESS;
   }
   return modal ? ShowModal(found, result) : ShowModeless(found);

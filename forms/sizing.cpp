@@ -13,8 +13,8 @@ bool IsUnset(const MINMAXINFO& info) noexcept {
          info.ptMaxTrackSize.x == 0;
 }
 
-// Tells a sizable window's program of a size change. The size is that of WM_WINDOWPOSCHANGING, before the change:
-// programs rely on asking for the new one themselves.
+// Tells a sizable window's program of a size change. The size is that of WM_WINDOWPOSCHANGING, before the
+// change: programs rely on asking for the new one themselves.
 void ReportResize(HWND window) noexcept {
   WindowRecord record = RecordOf(window);
   if (record == nullptr || record->loaded == 0 || record->resizePending == 0) return;

@@ -15,8 +15,8 @@ constexpr int kWaitingText = 102;
 using HintText = rc::FixedText<255>;
 
 // Slots that mean something else in other windows.
-constexpr Slot kWaitingControl = SLOT_CANVAS;        // the pointer rests on it, its timer runs
-constexpr Slot kShownControl = SLOT_CANVASANCHOR;    // its hint shows
+constexpr Slot kWaitingControl = SLOT_CANVAS;      // the pointer rests on it, its timer runs
+constexpr Slot kShownControl = SLOT_CANVASANCHOR;  // its hint shows
 
 enum TooltipTimer : UINT { kPopUp = 1, kTimeUp = 2, kWatch = 3 };
 constexpr UINT kFirstDelay = 1000;  // milliseconds
@@ -69,15 +69,16 @@ void RegisterTooltipClass() noexcept {
 }
 
 void CreateText(HWND tooltip, HINSTANCE instance, int id, DWORD visible) noexcept {
-  HWND text = CreateWindowExA(0, "STATIC", "", WS_CHILD | SS_NOPREFIX | SS_LEFTNOWORDWRAP | visible, 0, 0, 0, 0, tooltip,
-                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance, nullptr);
+  HWND text =
+      CreateWindowExA(0, "STATIC", "", WS_CHILD | SS_NOPREFIX | SS_LEFTNOWORDWRAP | visible, 0, 0, 0, 0,
+                      tooltip, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance, nullptr);
   SendMessageA(text, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(ANSI_VAR_FONT)), FALSE);
 }
 
 HWND CreateTooltip(HWND window) noexcept {
   const auto instance = reinterpret_cast<HINSTANCE>(GetWindowLongA(window, GWL_HINSTANCE));
-  HWND tooltip = CreateWindowExA(WS_EX_TOOLWINDOW, kTooltipsClass, kTitle, WS_POPUP, 0, 0, 10, 10, nullptr, nullptr,
-                                 instance, nullptr);
+  HWND tooltip = CreateWindowExA(WS_EX_TOOLWINDOW, kTooltipsClass, kTitle, WS_POPUP, 0, 0, 10, 10, nullptr,
+                                 nullptr, instance, nullptr);
   if (tooltip == nullptr) return nullptr;
   CreateText(tooltip, instance, kShownText, WS_VISIBLE);
   CreateText(tooltip, instance, kWaitingText, 0);
@@ -134,13 +135,18 @@ void Watch(HWND tooltip) noexcept {
 
 LRESULT OnTooltipTimer(const Message& message) noexcept {
   switch (message.wParam) {
-    case kPopUp: PopUp(message.window); break;
+    case kPopUp:
+      PopUp(message.window);
+      break;
     case kTimeUp:
       KillTimer(message.window, kTimeUp);
       HideTooltip();
       break;
-    case kWatch: Watch(message.window); break;
-    default: break;
+    case kWatch:
+      Watch(message.window);
+      break;
+    default:
+      break;
   }
   return 0;
 }

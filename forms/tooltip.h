@@ -5,8 +5,8 @@
 
 namespace brelt {
 
-// The pointer is over control, a child of window, with this hint. Any other control, or an empty hint, hides what
-// shows.
+// The pointer is over control, a child of window, with this hint. Any other control, or an empty hint, hides
+// what shows.
 void ShowTooltip(HWND window, HWND control, const char* text) noexcept;
 
 // The pointer moved, or the time is up.

@@ -43,7 +43,10 @@ std::uint32_t EditFlags(std::uint32_t flags) noexcept {
 class TopWindowMaker {
  public:
   TopWindowMaker(const WindowSource& source, Failure& failure) noexcept
-      : source_(source), failure_(failure), element_(*source.records[0]), kind_(KindOfClass(element_.className.view())) {}
+      : source_(source),
+        failure_(failure),
+        element_(*source.records[0]),
+        kind_(KindOfClass(element_.className.view())) {}
 
   HWND Make() noexcept {
     if (!HasUsableClass(kind_, source_.instance)) {
@@ -134,8 +137,8 @@ bool TopWindowMaker::GiveRecord(HWND window) noexcept {
   return true;
 }
 
-// The place where an edit window gets its inner control. Until the library has one, this is what a control that
-// can't be made reports.
+// The place where an edit window gets its inner control. Until the library has one, this is what a control
+// that can't be made reports.
 bool TopWindowMaker::GiveEditControl(HWND) noexcept {
   failure_.Set(RTX_NO_MEMORY, "Could not create multi line control for window ", source_.name);
   return false;
@@ -179,8 +182,8 @@ void TopWindowMaker::PlaceWindow(HWND window) const noexcept {
   }
   // Two moves: what a program hears of the size first is what each left behind.
   MoveWindow(window, 0, 0, width, height, FALSE);
-  MoveWindow(window, GetSystemMetrics(SM_CXSCREEN) / 2 - width / 2, GetSystemMetrics(SM_CYSCREEN) / 2 - height / 2,
-             width, height, FALSE);
+  MoveWindow(window, GetSystemMetrics(SM_CXSCREEN) / 2 - width / 2,
+             GetSystemMetrics(SM_CYSCREEN) / 2 - height / 2, width, height, FALSE);
 }
 
 }  // namespace

@@ -12,7 +12,7 @@
 namespace brelt {
 
 struct WindowSource {
-  HMODULE instance;    // the program's module: owns the window, and its folder holds custom control modules
+  HMODULE instance;  // the program's module: owns the window, and its folder holds custom control modules
   const char* name;
   const rc::SymbolIndex& symbols;
   rc::RecordTable& records;
@@ -20,9 +20,9 @@ struct WindowSource {
   const char* rcPath;  // a full path
 };
 
-// Makes the window, hidden, with its record, fonts and controls, but without its menu. Null with a failure when
-// there is no window; a Dialog with a control that couldn't be made comes back with the failure, and the caller
-// destroys it.
+// Makes the window, hidden, with its record, fonts and controls, but without its menu. Null with a failure
+// when there is no window; a Dialog with a control that couldn't be made comes back with the failure, and the
+// caller destroys it.
 HWND CreateTopWindow(const WindowSource& source, rc::Failure& failure) noexcept;
 
 // The style and extended style of a window from those of its DIALOG: only legal words, never visible yet.

@@ -12,7 +12,8 @@ constexpr UINT kClassStyle = CS_GLOBALCLASS | CS_DBLCLKS;
 constexpr WindowKind kKinds[] = {
     {"Dialog", kDialogClass, Dialog_proc, kClassStyle, false},
     {"Editwindow", kEditwindowClass, Editwindow_proc, kClassStyle | CS_HREDRAW | CS_VREDRAW, true},
-    {"Richeditwindow", kRicheditwindowClass, Richeditwindow_proc, kClassStyle | CS_HREDRAW | CS_VREDRAW, true},
+    {"Richeditwindow", kRicheditwindowClass, Richeditwindow_proc, kClassStyle | CS_HREDRAW | CS_VREDRAW,
+     true},
 };
 
 const WindowKind* FindKind(std::string_view word) noexcept {
@@ -57,8 +58,9 @@ void RegisterWindowClass(const char* className) noexcept {
 bool HasUsableClass(const WindowKind& kind, HINSTANCE instance) noexcept {
   WNDCLASSEXA info;
   if (!FindClass(instance, kind.className, info)) RegisterWindowClass(kind.className);
-  return FindClass(Library.ModuleInstance, kind.className, info) && info.hInstance == Library.ModuleInstance &&
-         info.lpfnWndProc == kind.procedure && (info.style & CS_GLOBALCLASS) != 0;
+  return FindClass(Library.ModuleInstance, kind.className, info) &&
+         info.hInstance == Library.ModuleInstance && info.lpfnWndProc == kind.procedure &&
+         (info.style & CS_GLOBALCLASS) != 0;
 }
 
 }  // namespace brelt

@@ -38,8 +38,8 @@ constexpr RouteTable<31> kSharedRoutes = {{
     {EV_KEYPRESS, OnAnsweredEvent},
     {EV_RIGHTDOWN, OnAnsweredEvent},
     {EV_LOAD, OnLoadEvent},
-    // EV_CLICK, EV_DBLCLICK and EV_DEACTIVATE are no messages that are passed on: EV_DEACTIVATE is posted on each
-    // deactivation and ends in the default procedure. Programs have never seen it and don't expect to.
+    // EV_CLICK, EV_DBLCLICK and EV_DEACTIVATE are no messages that are passed on: EV_DEACTIVATE is posted on
+    // each deactivation and ends in the default procedure. Programs have never seen it and don't expect to.
 }};
 
 constexpr RouteTable<12> kDialogRoutes = {{

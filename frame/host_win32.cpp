@@ -41,9 +41,12 @@ struct OpenWay {
 
 constexpr OpenWay WayOf(OpenMode mode) noexcept {
   switch (mode) {
-    case OpenMode::kReplace: return {GENERIC_WRITE, CREATE_ALWAYS};
-    case OpenMode::kAppend: return {GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS};
-    default: return {GENERIC_READ, OPEN_EXISTING};
+    case OpenMode::kReplace:
+      return {GENERIC_WRITE, CREATE_ALWAYS};
+    case OpenMode::kAppend:
+      return {GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS};
+    default:
+      return {GENERIC_READ, OPEN_EXISTING};
   }
 }
 
@@ -51,8 +54,8 @@ constexpr OpenWay WayOf(OpenMode mode) noexcept {
 
 FileHandle* OpenFile(const char* path, OpenMode mode) noexcept {
   const OpenWay way = WayOf(mode);
-  const HANDLE file = CreateFileA(path, way.access, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, way.disposition,
-                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+  const HANDLE file = CreateFileA(path, way.access, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                  way.disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (file == INVALID_HANDLE_VALUE) return nullptr;
   if (mode == OpenMode::kAppend) SetFilePointer(file, 0, nullptr, FILE_END);
   return reinterpret_cast<FileHandle*>(file);

@@ -10,9 +10,9 @@ namespace brelt {
 struct LibraryState {
   HINSTANCE ModuleInstance = nullptr;  // registers the classes
   std::int32_t TraceMode = 0;
-  std::int32_t OptionBase = 1;    // index of the first element of every list and array, 0 or 1
-  std::int32_t UserBreak = 0;     // set by the break key; clearing it is the program's duty
-  std::int32_t LastButtonId = 0;  // the push button pressed last in a modal show
+  std::int32_t OptionBase = 1;       // index of the first element of every list and array, 0 or 1
+  std::int32_t UserBreak = 0;        // set by the break key; clearing it is the program's duty
+  std::int32_t LastButtonId = 0;     // the push button pressed last in a modal show
   HWND DebugWindowHandle = nullptr;  // while it is visible and enabled a program gets no timer events
 };
 // Constant-initialised: a constructor would run under the loader's lock.

@@ -15,7 +15,8 @@ void ObjectCall::Resolve(const char* name) noexcept {
 }
 
 bool ObjectCall::IsMenuItem() const noexcept {
-  return menu_ != nullptr && GetMenuState(menu_, static_cast<UINT>(id_), MF_BYCOMMAND) != static_cast<UINT>(-1);
+  return menu_ != nullptr &&
+         GetMenuState(menu_, static_cast<UINT>(id_), MF_BYCOMMAND) != static_cast<UINT>(-1);
 }
 
 }  // namespace brelt

@@ -1,5 +1,5 @@
-// The first four steps of every call on an object, in the order that programs rely on: trace the call's name, clear
-// its outputs, resolve the window, check. What is left for an export is its work.
+// The first four steps of every call on an object, in the order that programs rely on: trace the call's name,
+// clear its outputs, resolve the window, check. What is left for an export is its work.
 #pragma once
 
 #include <windows.h>
@@ -11,8 +11,8 @@
 
 namespace brelt {
 
-// The arguments of a call that must not be null. Each kind has the code for a missing one, and outputs know their
-// empty value.
+// The arguments of a call that must not be null. Each kind has the code for a missing one, and outputs know
+// their empty value.
 
 struct TruthOutput {
   static constexpr std::int32_t kMissing = RTX_NULL_BOOL;
@@ -57,7 +57,8 @@ class ObjectCall {
  public:
   // function is the export's own name, __func__ in its body.
   template <typename... Arguments>
-  ObjectCall(const char* function, const char* name, std::int32_t id, Arguments... arguments) noexcept : id_(id) {
+  ObjectCall(const char* function, const char* name, std::int32_t id, Arguments... arguments) noexcept
+      : id_(id) {
     Trace(function);
     (arguments.Clear(), ...);
     Resolve(name);

@@ -1,5 +1,5 @@
-// Owners of the platform's handles. The functions that release a handle or put a drawing object back are named in
-// this header only.
+// Owners of the platform's handles. The functions that release a handle or put a drawing object back are
+// named in this header only.
 #pragma once
 
 #include <windows.h>

@@ -9,15 +9,24 @@ namespace {
 
 std::string_view ProductText(char letter) noexcept {
   switch (letter) {
-    case 'B': return "Quorvane Software";
-    case 'C': return "Copyright (c) Quorvane Software. All rights reserved.";
-    case 'E': return "support@quorvane.example";
-    case 'P': return "Quorvane";
-    case 'R': return BRELT_RELEASE;
-    case 'S': return ".cls";
-    case 'V': return BRELT_VERSION;
-    case 'W': return "www.quorvane.example";
-    default: return "";
+    case 'B':
+      return "Quorvane Software";
+    case 'C':
+      return "Copyright (c) Quorvane Software. All rights reserved.";
+    case 'E':
+      return "support@quorvane.example";
+    case 'P':
+      return "Quorvane";
+    case 'R':
+      return BRELT_RELEASE;
+    case 'S':
+      return ".cls";
+    case 'V':
+      return BRELT_VERSION;
+    case 'W':
+      return "www.quorvane.example";
+    default:
+      return "";
   }
 }
 

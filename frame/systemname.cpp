@@ -15,9 +15,9 @@ struct SystemRow {
 
 // Fixed: a version later than these reads "Windows NT", however new the system is.
 constexpr SystemRow kSystems[] = {
-    {true, 6, 2, "Windows 8"},      {true, 6, 1, "Windows 7"},    {true, 6, 0, "Windows Vista"},
-    {true, 5, 2, "Windows 2003"},   {true, 5, 1, "Windows XP"},   {true, 5, 0, "Windows 2000"},
-    {false, 4, 0, "Windows 95"},    {false, 4, 10, "Windows 98"}, {false, 4, 90, "Windows ME"},
+    {true, 6, 2, "Windows 8"},    {true, 6, 1, "Windows 7"},    {true, 6, 0, "Windows Vista"},
+    {true, 5, 2, "Windows 2003"}, {true, 5, 1, "Windows XP"},   {true, 5, 0, "Windows 2000"},
+    {false, 4, 0, "Windows 95"},  {false, 4, 10, "Windows 98"}, {false, 4, 90, "Windows ME"},
 };
 
 OSVERSIONINFOA QueryVersion() noexcept {
@@ -36,7 +36,8 @@ const char* SystemNameOf(bool ntFamily, std::uint32_t major, std::uint32_t minor
   return ntFamily ? "Windows NT" : "Windows";
 }
 
-void QuerySystemName(rc::TextBuffer name, std::uint32_t& major, std::uint32_t& minor, std::uint32_t& bits) noexcept {
+void QuerySystemName(rc::TextBuffer name, std::uint32_t& major, std::uint32_t& minor,
+                     std::uint32_t& bits) noexcept {
   const OSVERSIONINFOA version = QueryVersion();
   major = version.dwMajorVersion;
   minor = version.dwMinorVersion;

@@ -8,7 +8,8 @@
 namespace brelt {
 
 // Stores the name of the system and gives its version and bits. The bits are always 32.
-void QuerySystemName(rc::TextBuffer name, std::uint32_t& major, std::uint32_t& minor, std::uint32_t& bits) noexcept;
+void QuerySystemName(rc::TextBuffer name, std::uint32_t& major, std::uint32_t& minor,
+                     std::uint32_t& bits) noexcept;
 
 // The major version alone.
 std::uint32_t SystemMajorVersion() noexcept;

@@ -25,8 +25,11 @@ void TraceCall(const char* text) noexcept {
       OutputDebugStringA(text);
       OutputDebugStringA("\n");
       break;
-    case kFile: AppendTraceFile(text); break;
-    default: break;
+    case kFile:
+      AppendTraceFile(text);
+      break;
+    default:
+      break;
   }
 }
 

@@ -1,4 +1,5 @@
-// Window objects: how a window of the library is recognised, what it carries, and how a name becomes a handle.
+// Window objects: how a window of the library is recognised, what it carries, and how a name becomes a
+// handle.
 #pragma once
 
 #include <windows.h>
@@ -19,13 +20,14 @@ enum Slot : int {
   SLOT_RECORD = 0,       // WindowRecord; 0 in boxes, so that they can't be found by name
   SLOT_ARRAYVALUES = 1,  // block of key=value texts, or 0
   SLOT_CANVAS = 2,       // canvas bitmap, or 0; the token table. Boxes: the result buffer
-  SLOT_CANVASANCHOR = 3, // the canvas anchor, x in the low word; size of the token table. Input box: buffer size
-  SLOT_LASTFOCUS = 4,    // the child that last had the focus
-  SLOT_PREVACTIVE = 5,   // the window to reactivate when this modal one closes, or 0
-  SLOT_ACCELTABLE = 6,   // AcceleratorTable, or 0. Boxes: the rectangle that gets the final position
-  SLOT_FUNCPTR = 7,      // EventFunction, or 0. Boxes: the result word
-  SLOT_FLAGS = 8,        // the WF_ and EWS_ bits
-  SLOT_EDITPROC = 9,     // edit windows: the inner control's own procedure
+  SLOT_CANVASANCHOR =
+      3,  // the canvas anchor, x in the low word; size of the token table. Input box: buffer size
+  SLOT_LASTFOCUS = 4,   // the child that last had the focus
+  SLOT_PREVACTIVE = 5,  // the window to reactivate when this modal one closes, or 0
+  SLOT_ACCELTABLE = 6,  // AcceleratorTable, or 0. Boxes: the rectangle that gets the final position
+  SLOT_FUNCPTR = 7,     // EventFunction, or 0. Boxes: the result word
+  SLOT_FLAGS = 8,       // the WF_ and EWS_ bits
+  SLOT_EDITPROC = 9,    // edit windows: the inner control's own procedure
 };
 
 // SLOT_FLAGS. A program sets the low 16 bits only.
@@ -62,14 +64,14 @@ struct WindowRow {
   HFONT drawFont;          // of text on the canvas; null in edit windows
   COLORREF foreColour;
   COLORREF backColour;
-  std::int32_t currentX;   // drawing position
+  std::int32_t currentX;  // drawing position
   std::int32_t currentY;
-  std::int32_t canvasX;    // where the canvas lies in the client area
+  std::int32_t canvasX;  // where the canvas lies in the client area
   std::int32_t canvasY;
-  std::int32_t defaultId;  // of the first BS_DEFPUSHBUTTON, or 0
-  MINMAXINFO systemMinMax; // the first one the platform offered
-  Placement minPosition;   // x and y stay 0; width 0 is unset
-  Placement maxPosition;   // width 0 is unset
+  std::int32_t defaultId;      // of the first BS_DEFPUSHBUTTON, or 0
+  MINMAXINFO systemMinMax;     // the first one the platform offered
+  Placement minPosition;       // x and y stay 0; width 0 is unset
+  Placement maxPosition;       // width 0 is unset
   std::int32_t resizePending;  // a size change has been seen and not yet reported
   std::int32_t clientWidth;    // client size when it was seen
   std::int32_t clientHeight;
@@ -84,9 +86,9 @@ inline constexpr int kDialogRows = rc::kRecordCount;
 
 // The slot's value; 0 if the window isn't the library's own. slot isn't checked.
 LONG ReadSlot(HWND window, int slot) noexcept;
-// Writes if the window's class, as registered under the window's own instance, has the ten slots and slot is one
-// of them. That ReadSlot asks the window and this its registration is deliberate: a foreign window of that size
-// may be read, never written.
+// Writes if the window's class, as registered under the window's own instance, has the ten slots and slot is
+// one of them. That ReadSlot asks the window and this its registration is deliberate: a foreign window of
+// that size may be read, never written.
 void WriteSlot(HWND window, int slot, LONG value) noexcept;
 
 template <typename T>
@@ -117,8 +119,9 @@ using ClassName = rc::FixedText<32>;
 // The name of a window's class, cut to 32 characters; empty if there is no such window.
 ClassName ClassNameOf(HWND window) noexcept;
 
-// A pattern with a leading "*" matches the end of a text, one with a trailing "*" its beginning, any other the
-// whole. The leading star is looked at first, so one with both is a tail that ends in a star. ignoreCase is mode 1.
+// A pattern with a leading "*" matches the end of a text, one with a trailing "*" its beginning, any other
+// the whole. The leading star is looked at first, so one with both is a tail that ends in a star. ignoreCase
+// is mode 1.
 bool TextMatches(const char* pattern, const char* text, int mode) noexcept;
 // The same for the class of a window, ignoring case; false without a window or a pattern.
 bool ClassMatches(HWND window, const char* pattern) noexcept;

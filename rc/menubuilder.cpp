@@ -160,7 +160,8 @@ host::MenuHandle* BuildMenuFromFile(const char* fileName, const char* menuName, 
   FixedText<63> prefix;
   prefix.Format("Menu <%-.*s>, ", kNameLength, menuName);
   const host::Block<char> text(kResourceTextSize);
-  const auto fail = [&failure](std::int32_t code, const char* first, const char* second) -> host::MenuHandle* {
+  const auto fail = [&failure](std::int32_t code, const char* first,
+                               const char* second) -> host::MenuHandle* {
     failure.Set(code, first, second);
     return nullptr;
   };

@@ -12,7 +12,8 @@ int main() {
   setvbuf(stdout, nullptr, _IONBF, 0);
   HWND window = nullptr;
   char message[256];
-  const int32_t code = Load(GetModuleHandleA(nullptr), "Hello", "hello.rc", OnEvent, &window, nullptr, message, sizeof message);
+  const int32_t code = Load(GetModuleHandleA(nullptr), "Hello", "hello.rc", OnEvent, &window, nullptr,
+                            message, sizeof message);
   if (code != RTX_OK) return printf("%d: %s\n", int(code), message), 1;
   return MainLoop(GetModuleHandleA(nullptr), window, nullptr, nullptr);
 }

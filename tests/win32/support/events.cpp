@@ -20,7 +20,8 @@ const char* NameOf(uint32_t event) {
 }  // namespace
 
 std::string ToText(const Event& event) {
-  return std::string(NameOf(event.event)) + " " + std::to_string(event.wParam) + " " + std::to_string(event.lParam);
+  return std::string(NameOf(event.event)) + " " + std::to_string(event.wParam) + " " +
+         std::to_string(event.lParam);
 }
 
 std::ostream& operator<<(std::ostream& out, const Event& event) { return out << ToText(event); }

@@ -21,7 +21,8 @@ struct Event {
 std::string ToText(const Event& event);
 std::ostream& operator<<(std::ostream& out, const Event& event);
 
-// All that happened since Clear, of all windows. OnEvent, when set, is called for each event and gives the result.
+// All that happened since Clear, of all windows. OnEvent, when set, is called for each event and gives the
+// result.
 struct EventLog {
   std::vector<Event> events;
   std::vector<HWND> windows;

@@ -23,8 +23,8 @@ LoadResult LoadText(const std::string& name, const std::string& rcText, EventFun
   const std::string path = WriteTestFile(name + ".rc", rcText);
   LoadResult result{0, "", nullptr};
   char message[1024] = "unset";
-  result.code = Load(GetModuleHandleA(nullptr), name.c_str(), path.c_str(), function, &result.window, nullptr, message,
-                     sizeof message);
+  result.code = Load(GetModuleHandleA(nullptr), name.c_str(), path.c_str(), function, &result.window, nullptr,
+                     message, sizeof message);
   result.message = message;
   return result;
 }
@@ -54,7 +54,8 @@ bool PumpUntil(const std::function<bool()>& condition, DWORD milliseconds) {
 namespace {
 
 BOOL CALLBACK CollectWindow(HWND window, LPARAM context) {
-  if (GetClassLongA(window, GCL_CBWNDEXTRA) == 40) reinterpret_cast<std::vector<HWND>*>(context)->push_back(window);
+  if (GetClassLongA(window, GCL_CBWNDEXTRA) == 40)
+    reinterpret_cast<std::vector<HWND>*>(context)->push_back(window);
   return TRUE;
 }
 

@@ -12,7 +12,7 @@
 namespace brelt::test {
 
 // Files in the test's own folder on drive C.
-std::string TestFolder();  // with a separator at its end
+std::string TestFolder();                                                      // with a separator at its end
 std::string WriteTestFile(const std::string& name, const std::string& bytes);  // gives the full path
 std::string ReadTestFile(const std::string& path);
 

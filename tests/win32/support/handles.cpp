@@ -9,8 +9,8 @@
 namespace brelt::test {
 namespace {
 
-// The system's own counters are stubs under Wine, so the table of drawing objects that the process shares with it is
-// walked instead. On Windows itself the counters work.
+// The system's own counters are stubs under Wine, so the table of drawing objects that the process shares
+// with it is walked instead. On Windows itself the counters work.
 struct GdiEntry {
   unsigned long long object;
   unsigned owner;
@@ -37,14 +37,27 @@ void CountGdi(HandleCount& count) {
       case 0x01:
       case 0x21:
       case 0x41:
-      case 0x66: ++count.contexts; break;
-      case 0x04: ++count.regions; break;
-      case 0x09: ++count.bitmaps; break;
-      case 0x0a: ++count.fonts; break;
-      case 0x10: ++count.brushes; break;
+      case 0x66:
+        ++count.contexts;
+        break;
+      case 0x04:
+        ++count.regions;
+        break;
+      case 0x09:
+        ++count.bitmaps;
+        break;
+      case 0x0a:
+        ++count.fonts;
+        break;
+      case 0x10:
+        ++count.brushes;
+        break;
       case 0x30:
-      case 0x50: ++count.pens; break;
-      default: break;
+      case 0x50:
+        ++count.pens;
+        break;
+      default:
+        break;
     }
   }
 }
@@ -96,11 +109,12 @@ HandleCount CountHandles() {
 
 std::string ToText(const HandleCount& count) {
   char text[256];
-  std::snprintf(text, sizeof text,
-                "fonts %d bitmaps %d brushes %d pens %d regions %d contexts %d windows %d menus %d icons %d modules %d "
-                "blocks %d",
-                count.fonts, count.bitmaps, count.brushes, count.pens, count.regions, count.contexts, count.windows,
-                count.menus, count.icons, count.modules, count.memoryBlocks);
+  std::snprintf(
+      text, sizeof text,
+      "fonts %d bitmaps %d brushes %d pens %d regions %d contexts %d windows %d menus %d icons %d modules %d "
+      "blocks %d",
+      count.fonts, count.bitmaps, count.brushes, count.pens, count.regions, count.contexts, count.windows,
+      count.menus, count.icons, count.modules, count.memoryBlocks);
   return text;
 }
 
