@@ -196,7 +196,8 @@ TEST_F(LoadSymbols_, AnRcFileThatCannotBeReadIsToldWithItsOwnName) {
 
 TEST_F(LoadSymbols_, AFileThatDoesNotOpenIsTold) {
   test::WriteFile(kPath, "#define A 1\n");
-  // Two searches for an include resource of five operations each (size, open, two reads, close), then the size.
+  // Two searches for an include resource of five operations each (size, open, two reads, close), then the
+  // size.
   test::FailFileOperation(11);
   const Loaded loaded = Load(kPath);
   EXPECT_EQ(loaded.count, 0);
