@@ -66,6 +66,13 @@ TEST(TextWriter, AnEmptyFormattedTextAddsNothing) {
   EXPECT_EQ(writer.view(), "abc");
 }
 
+TEST(TextWriter, AFormattedTextMayBeOneCharacter) {
+  FixedText<6> text;
+  TextWriter writer(text);
+  writer.Append("ab").Format("%d", 7).Append("c");
+  EXPECT_EQ(writer.view(), "ab7c");
+}
+
 TEST(TextWriter, ContinuesBehindWhatABufferHolds) {
   FixedText<6> text("abc");
   TextWriter::Continue(text).Append("defgh");
