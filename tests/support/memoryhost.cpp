@@ -1,7 +1,9 @@
 #include "tests/support/memoryhost.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -26,12 +28,34 @@ struct Failure {
   }
 };
 
+struct Range {
+  const char* first;
+  const char* end;
+
+  bool Touches(const void* memory, std::size_t bytes) const {
+    const char* from = static_cast<const char*>(memory);
+    return std::less<>()(from, end) && std::less<>()(first, from + bytes);
+  }
+};
+
+bool AnyTouches(const std::vector<Range>& ranges, const void* memory, std::size_t bytes) {
+  return std::any_of(ranges.begin(), ranges.end(),
+                     [=](const Range& range) { return range.Touches(memory, bytes); });
+}
+
+Range MakeRange(const void* memory, std::size_t bytes) {
+  const char* first = static_cast<const char*>(memory);
+  return {first, first + bytes};
+}
+
 struct State {
   std::map<std::string, std::shared_ptr<Node>> files;
   std::string currentDirectory = "c:\\work";
   std::string programPath = "c:\\program\\test.exe";
   Failure allocation;
   Failure file;
+  std::vector<Range> unreadable;
+  std::vector<Range> unwritable;
   int live = 0;
   int open = 0;
 };
@@ -84,6 +108,13 @@ void SetReadOnly(const std::string& path, bool readOnly) { Find(path)->readOnly 
 void SetCurrentDirectory(const std::string& path) { Host().currentDirectory = path; }
 void SetProgramPath(const std::string& path) { Host().programPath = path; }
 
+void DeclareUnreadable(const void* memory, std::size_t bytes) {
+  Host().unreadable.push_back(MakeRange(memory, bytes));
+}
+void DeclareUnwritable(const void* memory, std::size_t bytes) {
+  Host().unwritable.push_back(MakeRange(memory, bytes));
+}
+
 void FailAllocation(int n) { Host().allocation = {n, false, 0}; }
 int AllocationCount() { return Host().allocation.count; }
 int LiveAllocations() { return Host().live; }
@@ -114,11 +145,20 @@ void Release(void* block) noexcept {
   std::free(block);
 }
 
+bool IsReadable(const void* memory, std::size_t bytes) noexcept {
+  return bytes == 0 || (memory != nullptr && !AnyTouches(Host().unreadable, memory, bytes));
+}
+
+bool IsWritable(void* memory, std::size_t bytes) noexcept {
+  return IsReadable(memory, bytes) && (bytes == 0 || !AnyTouches(Host().unwritable, memory, bytes));
+}
+
 FileHandle* OpenFile(const char* path, OpenMode mode) noexcept {
   if (Host().file.Strikes()) return nullptr;
   std::shared_ptr<Node> node = Find(path);
   if (node != nullptr && (node->isDirectory || (node->readOnly && mode != OpenMode::kRead))) return nullptr;
   if (node == nullptr && mode == OpenMode::kRead) return nullptr;
+  if (node != nullptr && mode == OpenMode::kCreate) return nullptr;
   if (node == nullptr || mode == OpenMode::kReplace) {
     WriteFile(path, "");
     node = Find(path);
@@ -184,6 +224,14 @@ bool RenameFile(const char* from, const char* to) noexcept {
   if (node == nullptr || Find(to) != nullptr) return false;
   Host().files[Key(to)] = node;
   Host().files.erase(Key(from));
+  return true;
+}
+
+bool CutFile(const char* path, std::uint64_t size) noexcept {
+  if (Host().file.Strikes()) return false;
+  const auto node = Find(path);
+  if (node == nullptr || node->isDirectory || node->readOnly) return false;
+  node->bytes.resize(std::min(node->bytes.size(), static_cast<std::size_t>(size)));
   return true;
 }
 

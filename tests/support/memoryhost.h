@@ -22,6 +22,11 @@ void SetReadOnly(const std::string& path, bool readOnly);
 void SetCurrentDirectory(const std::string& path);
 void SetProgramPath(const std::string& path);
 
+// Memory that host::IsReadable and host::IsWritable call bad, besides null. What can't be read can't be
+// written.
+void DeclareUnreadable(const void* memory, std::size_t bytes);
+void DeclareUnwritable(const void* memory, std::size_t bytes);
+
 // Failures. Operations are counted from the call on; the n-th (from 0) fails, and with stay all behind it.
 void FailAllocation(int n);
 int AllocationCount();
