@@ -156,16 +156,20 @@ bool ResourceTypeIs(const char* text, const char* keyword) noexcept {
   return EqualIgnoreCase(token.view(), View(keyword));
 }
 
-// icon = name "ICON" {load option} (string | word ["." word])
 int ResourceIconFile(const char* fileName, const char* iconName, host::Path& out) noexcept {
   out.Clear();
   FixedText<kShortTextSize - 1> text;
   if (IsEmpty(iconName) || LocateResource(fileName, iconName, "ICON", text) == 0) return 0;
+  return IconFileOf(text.c_str(), out);
+}
+
+// icon = name "ICON" {load option} (string | word ["." word])
+int IconFileOf(const char* text, host::Path& out) noexcept {
   std::int32_t position = 0;
-  SkipSpace(text.c_str(), position);
+  SkipSpace(text, position);
   Token token;
-  for (int i = 0; i < 3; ++i) ScanToken(text.c_str(), position, token);
-  while (IsLoadOption(token.view())) ScanToken(text.c_str(), position, token);
+  for (int i = 0; i < 3; ++i) ScanToken(text, position, token);
+  while (IsLoadOption(token.view())) ScanToken(text, position, token);
   Token file;
   if (*token.c_str() == '"') {
     // Only doubled backslashes are decoded, so that names with single ones survive.
@@ -175,7 +179,7 @@ int ResourceIconFile(const char* fileName, const char* iconName, host::Path& out
     // The scanner sees my.ico as a word, a point and a word.
     file = token;
     for (int i = 0; i < 2; ++i) {
-      ScanToken(text.c_str(), position, token);
+      ScanToken(text, position, token);
       file.Append(token.view());
     }
   }

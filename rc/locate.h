@@ -80,6 +80,9 @@ bool ResourceTypeIs(const char* text, const char* keyword) noexcept;
 // its length.
 int ResourceIconFile(const char* fileName, const char* iconName, host::Path& out) noexcept;
 
+// The same from the text of the resource as LocateResource gives it.
+int IconFileOf(const char* text, host::Path& out) noexcept;
+
 // Removes a comment from // to the end of the line, keeping the line end. Marks between quotation marks don't
 // count; each line starts outside them. The result is the length that is left.
 int StripLineComment(char* line, int length) noexcept;
