@@ -12,6 +12,7 @@ add_library(brelt_core STATIC
   rc/menubuilder.cpp
   rc/menuoptions.cpp
   rc/menuparser.cpp
+  rc/objectkind.cpp
   rc/record.cpp
   rc/scan.cpp
   rc/styles.cpp
@@ -20,6 +21,16 @@ add_library(brelt_core STATIC
   rc/text.cpp
   rc/textkit.cpp
   rc/wordvalue.cpp
+  resprops/classkeyword.cpp
+  resprops/errortext.cpp
+  resprops/escape.cpp
+  resprops/proparray.cpp
+  resprops/properties.cpp
+  resprops/rcfile.cpp
+  resprops/readrows.cpp
+  resprops/resourceread.cpp
+  resprops/schema.cpp
+  resprops/writerows.cpp
 )
 target_include_directories(brelt_core PUBLIC ${PROJECT_SOURCE_DIR})
 target_link_libraries(brelt_core PRIVATE brelt_library_options)
