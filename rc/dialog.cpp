@@ -119,8 +119,11 @@ void DialogParser::ParseStatements() noexcept {
 // "CAPTION" string
 void DialogParser::ReadCaption() noexcept {
   Next();
-  Window().text.Append(StringBody(token_.view()));
-  UnescapeInPlace(Window().text);
+  if (*token_.c_str() == '"') {
+    // A second caption is appended to the first, and the whole decoded again.
+    Window().text.Append(StringBody(token_.view()));
+    UnescapeInPlace(Window().text);
+  }
   Next();
 }
 

@@ -14,7 +14,7 @@ void ResourceDirectory::Walk() noexcept {
   Line line;
   std::uint64_t offset = 0;
   while (complete_ && reader_.Next(line)) {
-    StripLineComment(line.text, line.length);
+    StripLineComment(line.text);
     walk.Feed(line.text);
     if (walk.IsHeader()) complete_ = Add(offset, walk);
     offset = reader_.Offset();
@@ -63,7 +63,7 @@ int ResourceDirectory::Locate(std::string_view name, const char* typeList, TextB
   ResourceWalk walk;
   Line line;
   while (!walk.IsLastLine() && reader_.Next(line)) {
-    StripLineComment(line.text, line.length);
+    StripLineComment(line.text);
     walk.Feed(line.text);
     writer.Append(line.text);
   }

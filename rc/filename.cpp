@@ -7,6 +7,15 @@ namespace {
 
 constexpr bool IsSeparator(char c) noexcept { return c == '\\' || c == '/'; }
 
+// Whether a file exists in a folder, which ends in a separator or is empty, and its path. A path that is too
+// long for the platform names no file, where its beginning might.
+bool FindIn(std::string_view folder, std::string_view name, host::Path& path) noexcept {
+  if (folder.size() + name.size() > host::kPathLength) return false;
+  path.Assign(folder);
+  path.Append(name);
+  return FileSizeOf(path.c_str()) != -1;
+}
+
 }  // namespace
 
 PathParts SplitPath(std::string_view path) noexcept {
@@ -78,17 +87,13 @@ void FindFileNearProgram(const void* module, const char* name, TextBuffer result
   }
   if (parts.name.empty()) return;
   host::Path folder;
+  host::Path found;
   CurrentDirectoryText(folder);
-  host::Path candidate;
-  candidate.Format("%s%s", folder.c_str(), name);
-  if (FileSizeOf(candidate.c_str()) == -1) {
-    host::Path program;
-    host::ModulePath(module, program);
-    folder.Assign(SplitPath(program.view()).Folder());
-    candidate.Format("%s%s", folder.c_str(), name);
-    if (FileSizeOf(candidate.c_str()) == -1) return;
+  if (!FindIn(folder.view(), name, found)) {
+    host::ModulePath(module, folder);
+    if (!FindIn(SplitPath(folder.view()).Folder(), name, found)) return;
   }
-  result.Assign(candidate.view());
+  result.Assign(found.view());
 }
 
 void QualifyFileName(const char* name, const char* directory, TextBuffer result) noexcept {

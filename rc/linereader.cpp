@@ -1,5 +1,6 @@
 #include "rc/linereader.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace brelt::rc {
@@ -26,10 +27,11 @@ void LineReader::Fill() noexcept {
   end_ = atEnd_ ? static_cast<char*>(endMark) : end_ + count;
 }
 
-// Whether more of the file is needed to say where the line ends. A pair may be split between two reads of the
-// file, so that one character more than a line must be at hand.
-bool LineReader::IsStarved(const char* lineFeed) const noexcept {
-  return lineFeed == nullptr && !atEnd_ && end_ - next_ <= kLineLength;
+// The line feed that ends the next line, or null. Where it stands further off than a line and a carriage
+// return can reach, only a piece goes out and it isn't looked at yet.
+char* LineReader::FindLineFeed() const noexcept {
+  const auto window = static_cast<std::size_t>(std::min(end_ - next_, std::ptrdiff_t{kLineLength + 1}));
+  return static_cast<char*>(std::memchr(next_, '\n', window));
 }
 
 void LineReader::Seek(std::uint64_t offset) noexcept {
@@ -42,15 +44,13 @@ void LineReader::Seek(std::uint64_t offset) noexcept {
 bool LineReader::Next(Line& line) noexcept {
   if (terminator_ != nullptr) *terminator_ = overwritten_;
   terminator_ = nullptr;
-  char* lineFeed = nullptr;
-  for (;;) {
-    lineFeed = static_cast<char*>(std::memchr(next_, '\n', static_cast<std::size_t>(end_ - next_)));
-    if (!IsStarved(lineFeed)) break;
+  char* lineFeed = FindLineFeed();
+  while (lineFeed == nullptr && !atEnd_ && end_ - next_ <= kLineLength) {
     Fill();
+    lineFeed = FindLineFeed();
   }
   if (next_ == end_) return false;
 
-  line.text = next_;
   char* behind = lineFeed != nullptr ? lineFeed + 1 : end_;
   char* textEnd = behind;
   if (lineFeed != nullptr && lineFeed > next_ && lineFeed[-1] == '\r') {
@@ -58,12 +58,8 @@ bool LineReader::Next(Line& line) noexcept {
     lineFeed[-1] = '\n';
     textEnd = lineFeed;
   }
-  if (textEnd - next_ > kLineLength) {
-    // Only a piece goes out, and its pair, if it has one, must be found whole by a later read.
-    if (textEnd == lineFeed) lineFeed[-1] = '\r';
-    textEnd = behind = next_ + kLineLength;
-  }
-  line.length = static_cast<int>(textEnd - next_);
+  if (textEnd - next_ > kLineLength) textEnd = behind = next_ + kLineLength;
+  line = {next_, static_cast<int>(textEnd - next_)};
   next_ = behind;
   terminator_ = textEnd;
   overwritten_ = *textEnd;

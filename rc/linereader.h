@@ -40,7 +40,7 @@ class LineReader {
   static constexpr int kBufferSize = 32768;
 
   void Fill() noexcept;
-  bool IsStarved(const char* lineFeed) const noexcept;
+  char* FindLineFeed() const noexcept;
 
   host::File file_;
   std::uint64_t bufferOffset_ = 0;  // where in the file the buffer begins

@@ -126,7 +126,7 @@ int LocateResource(const char* fileName, const char* resourceName, const char* t
   Line line;
   bool wanted = false;  // the resource the walk is in is the one sought
   for (std::int32_t number = 1; reader.Next(line); ++number) {
-    line.length = StripLineComment(line.text, line.length);
+    StripLineComment(line.text);
     walk.Feed(line.text);
     if (listing) {
       if (walk.IsHeader() && types.Holds(walk.keyword())) {
@@ -187,19 +187,18 @@ int IconFileOf(const char* text, host::Path& out) noexcept {
   return static_cast<int>(out.view().size());
 }
 
-int StripLineComment(char* line, int length) noexcept {
+void StripLineComment(char* line) noexcept {
   // Lines without any slash, nearly all, need no look at their quotation marks.
-  if (std::memchr(line, '/', static_cast<std::size_t>(length)) == nullptr) return length;
+  if (std::strchr(line, '/') == nullptr) return;
   bool quoted = false;
   for (char* at = line; *at != '\0'; ++at) {
     if (*at == '"') quoted = !quoted;
     if (quoted || at[0] != '/' || at[1] != '/') continue;
-    char* end = line + length;
-    while (end > at && (end[-1] == '\r' || end[-1] == '\n')) --end;
-    std::memmove(at, end, static_cast<std::size_t>(line + length - end) + 1);
-    return length - static_cast<int>(end - at);
+    const char* lineEnd = at + std::strlen(at);
+    while (lineEnd[-1] == '\r' || lineEnd[-1] == '\n') --lineEnd;
+    std::memmove(at, lineEnd, std::strlen(lineEnd) + 1);
+    return;
   }
-  return length;
 }
 
 void BlankBlockComments(char* text) noexcept {

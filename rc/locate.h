@@ -84,8 +84,8 @@ int ResourceIconFile(const char* fileName, const char* iconName, host::Path& out
 int IconFileOf(const char* text, host::Path& out) noexcept;
 
 // Removes a comment from // to the end of the line, keeping the line end. Marks between quotation marks don't
-// count; each line starts outside them. The result is the length that is left.
-int StripLineComment(char* line, int length) noexcept;
+// count; each line starts outside them.
+void StripLineComment(char* line) noexcept;
 
 // Replaces block comments by blanks, so that later lines and columns keep their numbers.
 void BlankBlockComments(char* text) noexcept;

@@ -48,6 +48,7 @@ class MenuBuilder {
   MenuFault& fault_;
   std::int32_t position_ = 0;
   Token token_;  // the token in hand
+  Token itemText_;
 };
 
 // name "MENU" {load option} "BEGIN" {element} "END"
@@ -84,21 +85,20 @@ void MenuBuilder::BuildElements(host::MenuHandle* menu) noexcept {
   if (!fault_) Expect("END", "END expected");
 }
 
-// "MENUITEM" ("SEPARATOR" | string "," identifier options)
+// "MENUITEM" ("SEPARATOR" | string "," identifier options). A faulty item is appended like any other: the
+// whole menu goes then.
 void MenuBuilder::BuildItem(host::MenuHandle* menu) noexcept {
   Next();
   if (TokenIs("SEPARATOR")) return host::AppendItem(menu, kMenuSeparator, 0, nullptr);
   if (*token_.c_str() != '"') return fault_.Set(RTX_MENU_SYNTAX, kMenuStringExpected);
-  Token itemText;
   token_.Assign(StringBody(token_.view()));
-  UnescapeText(token_.c_str(), itemText);
+  UnescapeText(token_.c_str(), itemText_);
   Next();
   if (!TokenIs(",")) return fault_.Set(RTX_MENU_SYNTAX, kMenuCommaExpected);
   const std::int32_t command = ReadCommand();
   const std::uint32_t options = ReadMenuOptions(text_, position_, fault_);
-  if (fault_) return;
-  host::AppendItem(menu, options, command, itemText.c_str());
-  AddAccelerators(itemText.c_str(), command, accelerators_);
+  host::AppendItem(menu, options, command, itemText_.c_str());
+  AddAccelerators(itemText_.c_str(), command, accelerators_);
 }
 
 // A number stands for itself, 0 included; a word needs a #define, the common identifiers too.
@@ -115,15 +115,16 @@ std::int32_t MenuBuilder::ReadCommand() noexcept {
 
 // "POPUP" any options "BEGIN" {element} "END". Whatever token stands for the title loses its first and last
 // character, and escapes in it reach the menu bar as written: titles have always been shown so.
+// No text is kept on the stack here: a file may nest thousands of popups.
 void MenuBuilder::BuildPopup(host::MenuHandle* parent) noexcept {
   Next();
-  Token title;
-  if (token_.view().size() > 2) title.Assign(token_.view().substr(1, token_.view().size() - 2));
+  const std::string_view token = token_.view();
+  token_.Assign(token.size() > 2 ? token.substr(1, token.size() - 2) : std::string_view());
   const std::uint32_t options = ReadMenuOptions(text_, position_, fault_) | kMenuPopup;
   if (fault_) return;
   host::MenuHandle* popup = host::MakePopupMenu();
   if (popup == nullptr) return fault_.Set(RTX_NO_MEMORY, kMenuNoMemory);
-  host::AppendPopup(parent, options, popup, title.c_str());
+  host::AppendPopup(parent, options, popup, token_.c_str());
   Next();
   if (Expect("BEGIN", "BEGIN expected")) BuildElements(popup);
 }

@@ -35,6 +35,7 @@ void FreeRecordArray(RecordTable& table) noexcept {
 }
 
 void ClearRecords(RecordTable& table) noexcept {
+  table[0]->Clear();
   for (ResourceRecord* record : table) {
     if (!record->keyword.IsEmpty() || !record->name.IsEmpty()) record->Clear();
   }

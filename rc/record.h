@@ -45,7 +45,7 @@ bool AllocRecordArray(RecordTable& table) noexcept;
 // Frees every record that is there; safe on a table that is half full.
 void FreeRecordArray(RecordTable& table) noexcept;
 
-// Makes every record of a table empty. A record that holds anything has a keyword or a name, and only those
+// Makes every record of a table empty. An element that holds anything has a keyword or a name, and only those
 // are touched: clearing 256 records whole would cost more than the parse that follows.
 void ClearRecords(RecordTable& table) noexcept;
 

@@ -113,15 +113,17 @@ void ReadIncludeName(const char* text, TextBuffer includeName) noexcept {
   UnescapeText(body.c_str(), includeName);
 }
 
+// Longer than a path can be, so that a name isn't cut before a message shows it, or to that of another file.
+using SymbolPath = FixedText<2 * host::kPathLength>;
+
 // The file that holds the #define lines of an RC file, and what the file says of it.
-void FindSymbolFile(const char* fileName, SymbolReport& report, host::Path& symbolFile) noexcept {
+void FindSymbolFile(const char* fileName, SymbolReport& report, SymbolPath& symbolFile) noexcept {
   FixedText<519> include;
   symbolFile.Assign(View(fileName));
   if (!LocateInclude(fileName, include, report.includeLines)) return;
   ReadIncludeName(include.c_str(), report.includeName);
   if (IsFullPathName(fileName) && IsBareFileName(report.includeName.c_str())) {
-    const PathParts parts = SplitPath(fileName);
-    symbolFile.Assign(parts.Folder());
+    symbolFile.Assign(SplitPath(fileName).Folder());
     symbolFile.Append(report.includeName.view());
   } else {
     symbolFile.Assign(report.includeName.view());
@@ -144,7 +146,7 @@ void ReadSymbolFile(const char* path, GrowingTable& table, SymbolReport& report)
   }
   Line line;
   while (reader.Next(line)) {
-    StripLineComment(line.text, line.length);
+    StripLineComment(line.text);
     ReadDefinition(line.text, table);
   }
 }
@@ -208,7 +210,7 @@ int LoadSymbols(const char* fileName, const char* resourceName, std::int32_t fla
   report = {};
   ClearRows(symbols);
   const host::Block<SymbolRecord> working(symbols.size());
-  host::Path symbolFile;
+  SymbolPath symbolFile;
   FindSymbolFile(fileName, report, symbolFile);
   if (!working) {
     report.message.Assign("Not enough memory to load the symbols");
@@ -226,7 +228,6 @@ int LoadSymbols(const char* fileName, const char* resourceName, std::int32_t fla
     GrowingTable table(symbols);
     if (!LoadDialogSymbols(fileName, resourceName, defined.index(), table)) {
       report.message.Assign("Not enough memory for loading the dialog symbols");
-      ClearRows(symbols);
       return 0;
     }
     count = table.count();
@@ -246,14 +247,17 @@ int LoadSymbols(const char* fileName, const char* resourceName, std::int32_t fla
 void SortSymbols(std::span<SymbolRecord> symbols, int count, std::int32_t flags) noexcept {
   if (count < 2) return;
   const std::span<SymbolRecord> rows = symbols.first(static_cast<std::size_t>(count));
-  // A stable sort, so that symbols of one value keep the order in which people wrote them.
+  const auto nameLess = [](const SymbolRecord& a, const SymbolRecord& b) {
+    return CompareIgnoreCase(a.Name.view(), b.Name.view()) < 0;
+  };
   if ((flags & kSortByName) != 0) {
-    std::stable_sort(rows.begin(), rows.end(), [](const SymbolRecord& a, const SymbolRecord& b) {
-      return CompareIgnoreCase(a.Name.view(), b.Name.view()) < 0;
-    });
+    std::sort(rows.begin(), rows.end(), nameLess);
   } else if ((flags & kSortByValue) != 0) {
-    std::stable_sort(rows.begin(), rows.end(),
-                     [](const SymbolRecord& a, const SymbolRecord& b) { return a.Value < b.Value; });
+    // Not the standard stable sort, which takes memory; names keep the order of equal values from being
+    // chance.
+    std::sort(rows.begin(), rows.end(), [nameLess](const SymbolRecord& a, const SymbolRecord& b) {
+      return a.Value != b.Value ? a.Value < b.Value : nameLess(a, b);
+    });
   }
 }
 

@@ -47,7 +47,6 @@ class SymbolIndex {
   // Twice the rows and a power of two; slots hold a row's number plus 1.
   static constexpr std::uint32_t kSlots = 2048;
 
-  std::uint16_t& Slot(std::string_view name) noexcept;
   std::uint32_t SlotOf(std::string_view name) const noexcept;
 
   std::span<const SymbolRecord> rows_;
@@ -71,7 +70,7 @@ struct SymbolReport {
 int LoadSymbols(const char* fileName, const char* resourceName, std::int32_t flags,
                 std::span<SymbolRecord> symbols, SymbolReport& report) noexcept;
 
-// Sorts the first count rows by name ignoring case, or by value, as flags tell.
+// Sorts the first count rows by name ignoring case, or by value and then by name, as flags tell.
 void SortSymbols(std::span<SymbolRecord> symbols, int count, std::int32_t flags) noexcept;
 
 // Adds to Uses of each row how often the DIALOGs of a file and their MENUs name it; a menu counts once for

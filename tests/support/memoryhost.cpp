@@ -4,17 +4,20 @@
 #include <cstdlib>
 #include <cstring>
 #include <functional>
+#include <limits>
 #include <map>
 #include <memory>
+#include <optional>
 
 namespace brelt::test {
 namespace {
 
 struct Node {
   std::string path;  // as it was first written
-  std::string bytes;
+  std::string bytes = {};
   bool isDirectory = false;
   bool readOnly = false;
+  std::optional<std::uint64_t> pretendedSize = {};
 };
 
 struct Failure {
@@ -52,10 +55,12 @@ struct State {
   std::map<std::string, std::shared_ptr<Node>> files;
   std::string currentDirectory = "c:\\work";
   std::string programPath = "c:\\program\\test.exe";
+  std::map<const void*, std::string> modulePaths;
   Failure allocation;
   Failure file;
   std::vector<Range> unreadable;
   std::vector<Range> unwritable;
+  int mostBytes = std::numeric_limits<int>::max();
   int live = 0;
   int open = 0;
 };
@@ -83,7 +88,7 @@ void ResetHost() { Host() = State(); }
 
 void WriteFile(const std::string& path, const std::string& bytes) {
   std::shared_ptr<Node>& node = Host().files[Key(path)];
-  if (node == nullptr) node = std::make_shared<Node>(Node{path, "", false, false});
+  if (node == nullptr) node = std::make_shared<Node>(Node{.path = path});
   node->bytes = bytes;
 }
 
@@ -95,7 +100,7 @@ std::string ReadFile(const std::string& path) {
 bool FileExists(const std::string& path) { return Find(path) != nullptr; }
 
 void MakeDirectory(const std::string& path) {
-  Host().files[Key(path)] = std::make_shared<Node>(Node{path, "", true, false});
+  Host().files[Key(path)] = std::make_shared<Node>(Node{.path = path, .isDirectory = true});
 }
 
 std::vector<std::string> ListFiles() {
@@ -107,6 +112,10 @@ std::vector<std::string> ListFiles() {
 void SetReadOnly(const std::string& path, bool readOnly) { Find(path)->readOnly = readOnly; }
 void SetCurrentDirectory(const std::string& path) { Host().currentDirectory = path; }
 void SetProgramPath(const std::string& path) { Host().programPath = path; }
+void SetModulePath(const void* module, const std::string& path) { Host().modulePaths[module] = path; }
+void PretendSize(const std::string& path, std::uint64_t size) { Find(path)->pretendedSize = size; }
+
+void LimitReads(int bytes) { Host().mostBytes = bytes; }
 
 void DeclareUnreadable(const void* memory, std::size_t bytes) {
   Host().unreadable.push_back(MakeRange(memory, bytes));
@@ -171,7 +180,7 @@ int ReadBytes(FileHandle* file, char* buffer, int size) noexcept {
   if (Host().file.Strikes()) return -1;
   const std::string& bytes = file->node->bytes;
   const std::size_t left = file->position < bytes.size() ? bytes.size() - file->position : 0;
-  const std::size_t count = left < static_cast<std::size_t>(size) ? left : static_cast<std::size_t>(size);
+  const std::size_t count = std::min(left, static_cast<std::size_t>(std::min(size, Host().mostBytes)));
   std::memcpy(buffer, bytes.data() + file->position, count);
   file->position += count;
   return static_cast<int>(count);
@@ -206,7 +215,7 @@ bool QueryFileSize(const char* path, std::uint64_t& size) noexcept {
   if (Host().file.Strikes()) return false;
   const auto node = Find(path);
   if (node == nullptr || node->isDirectory) return false;
-  size = node->bytes.size();
+  size = node->pretendedSize.value_or(node->bytes.size());
   return true;
 }
 
@@ -243,7 +252,10 @@ bool CanRewriteFile(const char* path) noexcept {
 
 void CurrentDirectory(rc::TextBuffer path) noexcept { path.Assign(Host().currentDirectory); }
 
-void ModulePath(const void*, rc::TextBuffer path) noexcept { path.Assign(Host().programPath); }
+void ModulePath(const void* module, rc::TextBuffer path) noexcept {
+  const auto found = Host().modulePaths.find(module);
+  path.Assign(found == Host().modulePaths.end() ? Host().programPath : found->second);
+}
 
 FontChoice DefaultFont() noexcept {
   FontChoice font;

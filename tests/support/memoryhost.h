@@ -2,6 +2,7 @@
 // when told to.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,12 @@ std::vector<std::string> ListFiles();
 void SetReadOnly(const std::string& path, bool readOnly);
 void SetCurrentDirectory(const std::string& path);
 void SetProgramPath(const std::string& path);
+void SetModulePath(const void* module, const std::string& path);
+// What a query for the size of an existing file answers from now on.
+void PretendSize(const std::string& path, std::uint64_t size);
+
+// The most bytes that a read of a file gives at once.
+void LimitReads(int bytes);
 
 // Memory that host::IsReadable and host::IsWritable call bad, besides null. What can't be read can't be
 // written.

@@ -1,0 +1,73 @@
+// A caller's buffer between guard bytes, so that a write outside it shows.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "rc/text.h"
+
+namespace brelt::test {
+
+class GuardedBuffer {
+ public:
+  // The bytes start as something that is neither zero nor text.
+  explicit GuardedBuffer(int size)
+      : size_(size), bytes_(static_cast<std::size_t>(size + 2 * kGuard), kFill) {}
+
+  rc::TextBuffer buffer() { return {bytes_.data() + kGuard, size_}; }
+  char* data() { return bytes_.data() + kGuard; }
+  int size() const { return size_; }
+
+  bool IsIntact() const {
+    const auto isFill = [](char c) { return c == kFill; };
+    return std::all_of(bytes_.begin(), bytes_.begin() + kGuard, isFill) &&
+           std::all_of(bytes_.end() - kGuard, bytes_.end(), isFill);
+  }
+  // The bytes up to the terminator, or all of them and a remark when there is none.
+  std::string Text() const {
+    const auto begin = bytes_.begin() + kGuard;
+    const auto end = std::find(begin, begin + size_, '\0');
+    return std::string(begin, end) + (end == begin + size_ && size_ > 0 ? "<not terminated>" : "");
+  }
+  // Whether every byte from the terminator on is zero.
+  bool IsZeroBehindText() const {
+    const auto begin = bytes_.begin() + kGuard;
+    const auto end = std::find(begin, begin + size_, '\0');
+    return std::all_of(end, begin + size_, [](char c) { return c == '\0'; });
+  }
+
+ private:
+  static constexpr int kGuard = 16;
+  static constexpr char kFill = '\x5A';
+
+  int size_;
+  std::vector<char> bytes_;
+};
+
+enum class Behind { kAnything, kZero };
+
+// Calls write with buffers around the size that full needs, and with sizes 0 and 1: the text must be cut to
+// what fits, terminated, and nothing outside the buffer touched. With kZero the rest of the buffer must be
+// zero too.
+template <typename Write>
+void ExpectCutToFit(const std::string& full, Write write, Behind behind = Behind::kAnything) {
+  const int length = static_cast<int>(full.size());
+  for (const int size : {0, 1, 2, length - 1, length, length + 1, length + 2, length + 40}) {
+    if (size < 0) continue;
+    SCOPED_TRACE(::testing::Message() << "buffer of " << size);
+    GuardedBuffer guarded(size);
+    write(guarded.buffer());
+    EXPECT_TRUE(guarded.IsIntact());
+    if (size == 0) continue;
+    EXPECT_EQ(guarded.Text(), full.substr(0, static_cast<std::size_t>(size) - 1));
+    if (behind == Behind::kZero) {
+      EXPECT_TRUE(guarded.IsZeroBehindText());
+    }
+  }
+  write(rc::TextBuffer());
+}
+
+}  // namespace brelt::test
