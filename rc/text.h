@@ -50,7 +50,8 @@ class TextBuffer {
   void Assign(std::string_view text) const noexcept {
     if (size_ == 0) return;
     const int length = Fitting(text.size());
-    std::memmove(data_, text.data(), static_cast<std::size_t>(length));
+    // An empty view may have no address, which the platform's copying doesn't allow.
+    if (length > 0) std::memmove(data_, text.data(), static_cast<std::size_t>(length));
     data_[length] = '\0';
   }
 
@@ -75,7 +76,7 @@ class TextWriter {
 
   TextWriter& Append(std::string_view text) noexcept {
     const int room = buffer_.room() - length_;
-    if (room <= 0) return *this;
+    if (room <= 0 || text.empty()) return *this;
     const int length = text.size() < static_cast<std::size_t>(room) ? static_cast<int>(text.size()) : room;
     std::memcpy(buffer_.data() + length_, text.data(), static_cast<std::size_t>(length));
     length_ += length;
