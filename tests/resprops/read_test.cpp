@@ -190,7 +190,7 @@ TEST(ResourceRead, ReadsTheWindowsPropertiesFromItsStatements) {
       {"STYLE DS_CENTER\n", "ALIGNMENT", "1"},
       {"FONT 12,\"a\\b\"\"c\"\n", "FONTNAME", "\"a\\b\"\"c\""},
       {"FONT 12,\"Arial\"\n", "FONTSIZE", "12"},
-      {"FONT 12\n", "FONTSIZE", "8"},
+      {"FONT 12,\"\"\n", "FONTSIZE", "8"},
       {"CAPTION \"a\\tb\"\"c\\\\d\"\n", "CAPTION", "\"a\\tb\"\"c\\\\d\""},
   };
   for (const ValueCase& expected : cases) {
@@ -451,8 +451,6 @@ class ResourceReadArguments : public ::testing::Test {
     test::WriteFile(test::kRcFile, FormWith(""));
     rows_.Fill(Texts(257, "old"));
   }
-  // Every row zero, or every row as it was.
-  bool AllCleared() const { return rows_.AreAllZero(); }
   bool NoneCleared() const { return rows_.Texts() == Texts(257, "old"); }
 
   Rows rows_{100, 257};
@@ -479,7 +477,9 @@ TEST_F(ResourceReadArguments, AWrongCountOfGoodRowsIsClearedAndRefused) {
     rows_.Fill(Texts(257, "old"));
     EXPECT_EQ(MessageFor(rows_, {.count = count}), kRowsMessage);
     EXPECT_TRUE(rows_.IsZero(0) && rows_.IsZero(count - 1));
-    if (count < 257) EXPECT_EQ(rows_.Text(count), "old");
+    if (count < 257) {
+      EXPECT_EQ(rows_.Text(count), "old");
+    }
   }
 }
 
@@ -573,16 +573,16 @@ TEST_F(ResourceReadArguments, AFileThatIsNoneIsNamedInFull) {
 
 TEST_F(ResourceReadArguments, EachAllocationThatFailsIsToldAndNothingLeaks) {
   test::WriteFile(test::kRcFile, "I ICON \"a.ico\"\n" + FormWith("ICON \"I\",A,1,2,3,4"));
-  const Texts whole = ReadRows("Form");
+  const Texts whole = ReadRows("Form", 200);
   test::FailAllocation(-1);
-  ReadRows("Form");
+  ReadRows("Form", 200);
   const int count = test::AllocationCount();
   ASSERT_GT(count, 256);
   int told = 0;
   for (int n = 0; n < count; ++n) {
     SCOPED_TRACE(n);
     test::FailAllocation(n);
-    const Texts rows = ReadRows("Form");
+    const Texts rows = ReadRows("Form", 200);
     // Without the memory for a directory of icons each is sought by itself.
     if (rows != whole) {
       EXPECT_EQ(rows, Texts{"! Insufficient memory to read properties for window: Form"});
@@ -597,12 +597,12 @@ TEST_F(ResourceReadArguments, EachAllocationThatFailsIsToldAndNothingLeaks) {
 TEST_F(ResourceReadArguments, EachFileOperationThatFailsLeavesNoFileOpen) {
   test::WriteFile(test::kRcFile, "I ICON \"a.ico\"\n" + FormWith("ICON \"I\",A,1,2,3,4"));
   test::FailFileOperation(-1);
-  ReadRows("Form");
+  ReadRows("Form", 200);
   const int count = test::FileOperationCount();
   for (int n = 0; n < count; ++n) {
     SCOPED_TRACE(n);
     test::FailFileOperation(n);
-    ReadRows("Form");
+    ReadRows("Form", 200);
     EXPECT_EQ(test::LiveAllocations(), 0);
     EXPECT_EQ(test::OpenFiles(), 0);
   }
