@@ -113,9 +113,12 @@ int LocateResource(const char* fileName, const char* resourceName, const char* t
                    LineRange* lines) noexcept {
   TextWriter writer(out);
   LineRange found;
-  if (lines != nullptr) *lines = found;
-  if (IsEmpty(resourceName) || typeList == nullptr) return 0;
-  if (!IsAcceptedFileName(fileName) || FileSizeOf(fileName) < 1) return 0;
+  if (lines == nullptr) lines = &found;
+  *lines = {};
+  if (IsEmpty(resourceName) || typeList == nullptr || !IsAcceptedFileName(fileName)) return 0;
+  const std::int32_t size = FileSizeOf(fileName);
+  lines->broken = size != 0;
+  if (size < 1) return 0;
   LineReader reader(fileName);
   if (!reader.IsOpen()) return 0;
 
@@ -138,13 +141,13 @@ int LocateResource(const char* fileName, const char* resourceName, const char* t
     if (!walk.IsInside() || !wanted) continue;
     if (types.Holds(walk.keyword())) {
       writer.Append(line.text);
-      found = {found.first == 0 ? number : found.first, number};
+      *lines = {lines->first == 0 ? number : lines->first, number};
     }
     // The name alone ends the search: a second resource of one name is never reached.
     if (walk.IsLastLine()) break;
   }
+  lines->broken = reader.HasFailed();
   if (out.IsWritable()) BlankBlockComments(out.data());
-  if (lines != nullptr) *lines = found;
   return writer.length();
 }
 

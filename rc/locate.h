@@ -63,6 +63,7 @@ class TypeList {
 struct LineRange {
   std::int32_t first = 0;  // from 1; 0 when nothing was found
   std::int32_t last = 0;
+  bool broken = false;  // the file couldn't be read to where the search ends: what was found is not all
 };
 
 // Finds the resource of a name (compared without regard to case) whose keyword is in typeList, and stores its
