@@ -1,0 +1,68 @@
+// The one way in which a file is changed in place: it is moved aside under a temporary name and written anew
+// line by line. Only when the new file is whole does the old one go.
+#pragma once
+
+#include <optional>
+
+#include "rc/linereader.h"
+#include "resprops/rcfile.h"
+#include "resprops/textfile.h"
+
+namespace brelt::resprops {
+
+// A temporary name stands in the folder of its file.
+using TempPath = rc::FixedText<RcPath::kCapacity + 16>;
+
+// Finds the first free name of 1.tmp, 2.tmp and so on in the folder of a file, and makes the file, empty, to
+// claim it. False, with an empty name, where none can be made.
+bool MakeTempName(const char* path, TempPath& temp) noexcept;
+
+class Rewrite {
+ public:
+  // Moves the file aside. path must stay as long as this object.
+  explicit Rewrite(const char* path) noexcept;
+  Rewrite(const Rewrite&) = delete;
+  Rewrite& operator=(const Rewrite&) = delete;
+  ~Rewrite() { Finish(); }
+
+  // False where the file stands under its own name as before, and nothing can be done.
+  bool IsMoved() const noexcept { return !temp_.IsEmpty(); }
+
+  // Goes to the next line of the old text; false behind the last. A line longer than the reader's limit comes
+  // in pieces, which are lines of their own.
+  bool Next() noexcept;
+  // Begins again with the first line.
+  void Restart() noexcept;
+
+  // The line Next has gone to: its number from 1, and its text without the line end, terminated.
+  std::int32_t number() const noexcept { return number_; }
+  const char* line() const noexcept { return line_.text; }
+  bool IsEmptyLine() const noexcept { return line_.length == 0; }
+
+  // Takes the line over into the new file.
+  void Keep() noexcept;
+  // Puts a text into the new file; each of its lines ends in a line feed.
+  void Write(std::string_view text) noexcept;
+
+  // Closes both files. The old text goes if the new file has it all as it should be and isn't empty;
+  // otherwise it stays under the temporary name. Whether the new file is whole. The destructor does it too.
+  bool Finish() noexcept;
+
+ private:
+  void EndLine() noexcept;
+  bool KeepRest() noexcept;
+
+  const char* path_;
+  TempPath temp_;
+  std::optional<rc::LineReader> reader_;
+  std::optional<TextFile> writer_;
+  rc::Line line_{};
+  std::int32_t number_ = 0;
+  std::int32_t kept_ = 0;     // number of the line kept last
+  bool hasLineFeed_ = false;  // the line ends in one
+  bool isLineOpen_ = false;   // the last line written still lacks its line feed
+  bool isBroken_ = false;     // a read ahead of Restart failed
+  bool isWhole_ = false;
+};
+
+}  // namespace brelt::resprops
