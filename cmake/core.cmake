@@ -32,6 +32,7 @@ add_library(brelt_core STATIC
   resprops/readrows.cpp
   resprops/renameresource.cpp
   resprops/replaceresource.cpp
+  resprops/resourceinfo.cpp
   resprops/resourceread.cpp
   resprops/resourcewrite.cpp
   resprops/rewrite.cpp
