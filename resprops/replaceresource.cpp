@@ -73,7 +73,8 @@ void ReplaceOrAppendResource(const char* name, const char* text, const char* pat
                              ErrorText& error) noexcept {
   if (name == nullptr || rc::IsEmpty(text)) return error.Take("There is no resource to write.");
   if (!rc::IsFullPathName(path)) {
-    return error.Format("File name <%-.*s> is not a full path.", rc::kShownPathLength, rc::View(path).data());
+    return error.Format("File name <%-.*s> is not a full path.", rc::kShownPathLength,
+                        path != nullptr ? path : "");
   }
   if (IsReadOnlyFile(path)) return error.Take(kReadOnlyMessage, path);
   const bool exists = rc::FileSizeOf(path) >= 0;
