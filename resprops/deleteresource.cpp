@@ -104,10 +104,6 @@ void Deletion::DeleteOne(const char* name, DeleteMode mode) noexcept {
 
 bool Deletion::RemoveLines(const rc::LineRange& lines, const char* stub) noexcept {
   Rewrite rewrite(path_);
-  if (!rewrite.IsMoved()) {
-    error_.Take(kReadOnlyMessage, path_);
-    return false;
-  }
   while (rewrite.Next()) {
     if (rewrite.number() == lines.first && stub != nullptr) {
       rewrite.Write(stub);
@@ -117,7 +113,7 @@ bool Deletion::RemoveLines(const rc::LineRange& lines, const char* stub) noexcep
     const bool isEmptyBehind = rewrite.number() == lines.last + 1 && rewrite.IsEmptyLine();
     if (!isInside && !isEmptyBehind) rewrite.Keep();
   }
-  return rewrite.Finish();
+  return rewrite.Finish(error_);
 }
 
 // A DIALOG that doesn't parse has no companions.

@@ -16,4 +16,7 @@ void CompleteFileName(const char* rcFile, RcPath& path) noexcept;
 // there is no file.
 bool IsReadOnlyFile(const char* path) noexcept;
 
+// The message, ahead of the path, about such a file and any other that can't be changed.
+inline constexpr const char* kReadOnlyMessage = "Cannot modify the following read-only file: ";
+
 }  // namespace brelt::resprops

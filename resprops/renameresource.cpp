@@ -97,7 +97,6 @@ bool Renaming::CheckUse() noexcept {
 
 void Renaming::Rename() noexcept {
   Rewrite rewrite(path_.c_str());
-  if (!rewrite.IsMoved()) return error_.Take(kReadOnlyMessage, path_.view());
   while (rewrite.Next()) {
     const bool isHeader = rewrite.number() == lines_.first;
     if (isHeader && WriteRenamed(rewrite.line(), oldName_.c_str(), newName_.c_str(), rewrite)) continue;
@@ -105,6 +104,7 @@ void Renaming::Rename() noexcept {
     if (isHeader) Refuse("it was not in the file.");
     rewrite.Keep();
   }
+  rewrite.Finish(error_);
 }
 
 }  // namespace

@@ -18,7 +18,6 @@ std::string_view TrimmedLine(std::string_view line) noexcept {
 
 void Replace(const rc::LineRange& lines, const char* text, const char* path, ErrorText& error) noexcept {
   Rewrite rewrite(path);
-  if (!rewrite.IsMoved()) return error.Take(kReadOnlyMessage, path);
   while (rewrite.Next()) {
     if (rewrite.number() == lines.first) {
       rc::LineWalk walk(text);
@@ -30,6 +29,7 @@ void Replace(const rc::LineRange& lines, const char* text, const char* path, Err
     }
     if (rewrite.number() < lines.first || rewrite.number() > lines.last) rewrite.Keep();
   }
+  rewrite.Finish(error);
 }
 
 // Whether an empty line must come first so that a text at the end of a file stands by itself. A mark that
@@ -55,8 +55,10 @@ bool PrepareEnd(const char* path) noexcept {
   return hasText;
 }
 
-void Append(const char* text, const char* path) noexcept {
+void Append(const char* text, const char* path, ErrorText& error) noexcept {
   const bool needsEmptyLine = PrepareEnd(path);
+  std::uint64_t size = 0;
+  const bool existed = host::QueryFileSize(path, size);
   TextFile file(path, host::OpenMode::kAppend);
   if (!file.IsOpen()) return;
   if (needsEmptyLine) file.Write("\n");
@@ -65,6 +67,10 @@ void Append(const char* text, const char* path) noexcept {
   // A line that is too long loses its line feed with the rest of it, and runs on into the next.
   while (walk.Next(line)) file.Write(line.substr(0, kAppendedLineLength));
   file.Write("\n");
+  if (file.Close()) return;
+  // Half a resource would swallow what comes behind it.
+  if (existed) host::CutFile(path, size);
+  error.Take(kReadOnlyMessage, path);
 }
 
 }  // namespace
@@ -86,7 +92,7 @@ void ReplaceOrAppendResource(const char* name, const char* text, const char* pat
   } else if (lines.first != 0) {
     Replace(lines, text, path, error);
   } else {
-    Append(text, path);
+    Append(text, path, error);
   }
 }
 

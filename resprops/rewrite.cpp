@@ -31,14 +31,15 @@ bool MakeTempName(const char* path, TempPath& temp) noexcept {
 }
 
 Rewrite::Rewrite(const char* path) noexcept : path_(path) {
-  if (!MoveAside(path, temp_)) return;
+  isUnchanged_ = !MoveAside(path, temp_);
+  if (isUnchanged_) return;
   reader_.emplace(temp_.c_str());
   // A text that can't be read stays where it is, and no empty file takes its name.
   if (reader_->IsOpen()) writer_.emplace(path, host::OpenMode::kReplace);
 }
 
 bool Rewrite::Next() noexcept {
-  if (!writer_ || !writer_->IsOpen() || !reader_->Next(line_)) return false;
+  if (!IsOpen() || !reader_->Next(line_)) return false;
   ++number_;
   hasLineFeed_ = line_.HasLineFeed();
   while (line_.length > 0 && (line_.text[line_.length - 1] == '\n' || line_.text[line_.length - 1] == '\r')) {
@@ -50,7 +51,7 @@ bool Rewrite::Next() noexcept {
 
 void Rewrite::Restart() noexcept {
   number_ = 0;
-  if (!reader_) return;
+  if (!IsOpen()) return;
   isBroken_ = isBroken_ || reader_->HasFailed();
   reader_->Seek(0);
 }
@@ -93,14 +94,33 @@ bool Rewrite::KeepRest() noexcept {
   return count == 0;
 }
 
-bool Rewrite::Finish() noexcept {
-  if (!writer_ || !writer_->IsOpen()) return isWhole_;
+bool Rewrite::IsWhole() noexcept {
   EndLine();
-  isWhole_ = !isBroken_ && !reader_->HasFailed() && KeepRest();
-  isWhole_ = writer_->Close() && isWhole_;
+  const bool isRead = !isBroken_ && !reader_->HasFailed() && KeepRest();
+  return writer_->Close() && isRead;
+}
+
+// Half a file is of no use to anybody.
+void Rewrite::PutBack() noexcept {
+  host::RemoveFile(path_);
+  isUnchanged_ = host::RenameFile(temp_.c_str(), path_);
+}
+
+void Rewrite::End() noexcept {
+  if (!IsOpen()) return;
+  isWhole_ = IsWhole();
   reader_.reset();
   writer_.reset();
-  if (isWhole_ && rc::FileSizeOf(path_) >= 1) host::RemoveFile(temp_.c_str());
+  if (!isWhole_) {
+    PutBack();
+  } else if (rc::FileSizeOf(path_) >= 1) {
+    host::RemoveFile(temp_.c_str());
+  }
+}
+
+bool Rewrite::Finish(ErrorText& error) noexcept {
+  End();
+  if (isUnchanged_) error.Take(kReadOnlyMessage, path_);
   return isWhole_;
 }
 

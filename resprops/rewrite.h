@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "rc/linereader.h"
+#include "resprops/errortext.h"
 #include "resprops/rcfile.h"
 #include "resprops/textfile.h"
 
@@ -23,12 +24,10 @@ class Rewrite {
   explicit Rewrite(const char* path) noexcept;
   Rewrite(const Rewrite&) = delete;
   Rewrite& operator=(const Rewrite&) = delete;
-  ~Rewrite() { Finish(); }
+  ~Rewrite() { End(); }
 
-  // False where the file stands under its own name as before, and nothing can be done.
-  bool IsMoved() const noexcept { return !temp_.IsEmpty(); }
-
-  // Goes to the next line of the old text; false behind the last. A line longer than the reader's limit comes
+  // Goes to the next line of the old text; false behind the last, and at once where the file can't be
+  // rewritten. A line longer than the reader's limit comes
   // in pieces, which are lines of their own.
   bool Next() noexcept;
   // Begins again with the first line.
@@ -44,13 +43,18 @@ class Rewrite {
   // Puts a text into the new file; each of its lines ends in a line feed.
   void Write(std::string_view text) noexcept;
 
-  // Closes both files. The old text goes if the new file has it all as it should be and isn't empty;
-  // otherwise it stays under the temporary name. Whether the new file is whole. The destructor does it too.
-  bool Finish() noexcept;
+  // Ends the rewrite, as the destructor does. Whether the new file is whole; where the file stands as it was,
+  // a message tells so. Where the new file couldn't be made at all the old text stays under the temporary
+  // name, and so it does beside a new file that is empty.
+  bool Finish(ErrorText& error) noexcept;
 
  private:
+  bool IsOpen() const noexcept { return writer_ && writer_->IsOpen(); }
   void EndLine() noexcept;
   bool KeepRest() noexcept;
+  void End() noexcept;
+  bool IsWhole() noexcept;
+  void PutBack() noexcept;
 
   const char* path_;
   TempPath temp_;
@@ -63,6 +67,7 @@ class Rewrite {
   bool isLineOpen_ = false;   // the last line written still lacks its line feed
   bool isBroken_ = false;     // a read ahead of Restart failed
   bool isWhole_ = false;
+  bool isUnchanged_ = false;  // the file stands as it was
 };
 
 }  // namespace brelt::resprops

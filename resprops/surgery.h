@@ -48,6 +48,4 @@ void RewriteSymbols(const char* path, std::span<const rc::SymbolRecord> symbols,
 // A DIALOG that holds a place.
 rc::FixedText<120> StubDialog(const char* name) noexcept;
 
-inline constexpr const char* kReadOnlyMessage = "Cannot modify the following read-only file: ";
-
 }  // namespace brelt::resprops

@@ -58,6 +58,7 @@ struct State {
   std::map<const void*, std::string> modulePaths;
   Failure allocation;
   Failure file;
+  std::vector<std::string> renamedTexts;
   std::vector<Range> unreadable;
   std::vector<Range> unwritable;
   int mostBytes = std::numeric_limits<int>::max();
@@ -116,6 +117,8 @@ void SetModulePath(const void* module, const std::string& path) { Host().moduleP
 void PretendSize(const std::string& path, std::uint64_t size) { Find(path)->pretendedSize = size; }
 
 void LimitReads(int bytes) { Host().mostBytes = bytes; }
+
+const std::vector<std::string>& RenamedTexts() { return Host().renamedTexts; }
 
 void DeclareUnreadable(const void* memory, std::size_t bytes) {
   Host().unreadable.push_back(MakeRange(memory, bytes));
@@ -231,6 +234,7 @@ bool RenameFile(const char* from, const char* to) noexcept {
   if (Host().file.Strikes()) return false;
   const auto node = Find(from);
   if (node == nullptr || Find(to) != nullptr) return false;
+  Host().renamedTexts.push_back(node->bytes);
   Host().files[Key(to)] = node;
   Host().files.erase(Key(from));
   return true;
