@@ -13,8 +13,9 @@ Found Find(const char* path, const char* name, rc::LineRange& lines) noexcept {
   return lines.first != 0 ? Found::kYes : Found::kNo;
 }
 
-// Puts the line "newName type rest" in the place of a header; false where the header has another name.
-bool WriteRenamed(const char* header, const char* oldName, const char* newName, Rewrite& rewrite) noexcept {
+// Makes the line "newName type rest" of a header; false where the header has another name.
+bool RenameHeader(const char* header, const char* oldName, const char* newName,
+                  rc::TextBuffer renamed) noexcept {
   std::int32_t position = 0;
   rc::Name name;
   rc::SkipSpace(header, position);
@@ -25,12 +26,12 @@ bool WriteRenamed(const char* header, const char* oldName, const char* newName, 
   rc::ScanToken(header, position, type);
   std::int32_t typeEnd = typeStart;
   while (rc::IsWordChar(header[typeEnd])) ++typeEnd;
-  rewrite.Write(newName);
-  rewrite.Write(" ");
-  rewrite.Write({header + typeStart, static_cast<std::size_t>(typeEnd - typeStart)});
-  rewrite.Write(" ");
-  rewrite.Write(header + position);
-  rewrite.Write("\n");
+  rc::TextWriter(renamed)
+      .Append(newName)
+      .Append(' ')
+      .Append({header + typeStart, static_cast<std::size_t>(typeEnd - typeStart)})
+      .Append(' ')
+      .Append(header + position);
   return true;
 }
 
@@ -98,11 +99,16 @@ bool Renaming::CheckUse() noexcept {
 void Renaming::Rename() noexcept {
   Rewrite rewrite(path_.c_str());
   while (rewrite.Next()) {
-    const bool isHeader = rewrite.number() == lines_.first;
-    if (isHeader && WriteRenamed(rewrite.line(), oldName_.c_str(), newName_.c_str(), rewrite)) continue;
-    // String tables and languages are found under names that don't stand in front.
-    if (isHeader) Refuse("it was not in the file.");
-    rewrite.Keep();
+    rc::FixedText<rc::kLineLength + rc::kNameLength + 2> renamed;
+    if (rewrite.number() != lines_.first) {
+      rewrite.Keep();
+    } else if (RenameHeader(rewrite.line(), oldName_.c_str(), newName_.c_str(), renamed)) {
+      rewrite.KeepAs(renamed.view());
+    } else {
+      // String tables and languages are found under names that don't stand in front.
+      Refuse("it was not in the file.");
+      rewrite.Keep();
+    }
   }
   rewrite.Finish(error_);
 }

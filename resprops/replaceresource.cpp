@@ -45,8 +45,8 @@ bool PrepareEnd(const char* path) noexcept {
     rc::Line line;
     isOpen = reader.IsOpen();
     while (isOpen && reader.Next(line)) {
-      rc::TrimLineEnd(line.text);
-      hasText = *line.text != '\0';
+      TrimLine(line);
+      hasText = line.length > 0;
     }
     isOpen = isOpen && !reader.HasFailed();
     end = reader.Offset();

@@ -30,6 +30,12 @@ bool MakeTempName(const char* path, TempPath& temp) noexcept {
   return false;
 }
 
+void TrimLine(rc::Line& line) noexcept {
+  const auto isLineEnd = [](char c) { return c == '\n' || c == '\r'; };
+  while (line.length > 0 && isLineEnd(line.text[line.length - 1])) --line.length;
+  line.text[line.length] = '\0';
+}
+
 Rewrite::Rewrite(const char* path) noexcept : path_(path) {
   isUnchanged_ = !MoveAside(path, temp_);
   if (isUnchanged_) return;
@@ -42,10 +48,7 @@ bool Rewrite::Next() noexcept {
   if (!IsOpen() || !reader_->Next(line_)) return false;
   ++number_;
   hasLineFeed_ = line_.HasLineFeed();
-  while (line_.length > 0 && (line_.text[line_.length - 1] == '\n' || line_.text[line_.length - 1] == '\r')) {
-    --line_.length;
-  }
-  line_.text[line_.length] = '\0';
+  TrimLine(line_);
   return true;
 }
 
@@ -56,13 +59,13 @@ void Rewrite::Restart() noexcept {
   reader_->Seek(0);
 }
 
-void Rewrite::Keep() noexcept {
+void Rewrite::KeepAs(std::string_view text) noexcept {
   // The line feed of a line that fills its pieces comes as a piece of its own, and is no empty line.
   const bool endsOpenLine = isLineOpen_ && kept_ == number_ - 1 && IsEmptyLine();
   kept_ = number_;
   if (!endsOpenLine) {
     EndLine();
-    writer_->WriteBytes({line_.text, static_cast<std::size_t>(line_.length)});
+    writer_->WriteBytes(text);
     isLineOpen_ = true;
   }
   if (hasLineFeed_) EndLine();

@@ -18,6 +18,9 @@ using TempPath = rc::FixedText<RcPath::kCapacity + 16>;
 // claim it. False, with an empty name, where none can be made.
 bool MakeTempName(const char* path, TempPath& temp) noexcept;
 
+// Takes the line end off a line.
+void TrimLine(rc::Line& line) noexcept;
+
 class Rewrite {
  public:
   // Moves the file aside. path must stay as long as this object.
@@ -38,8 +41,9 @@ class Rewrite {
   const char* line() const noexcept { return line_.text; }
   bool IsEmptyLine() const noexcept { return line_.length == 0; }
 
-  // Takes the line over into the new file.
-  void Keep() noexcept;
+  // Takes the line over into the new file, as it is or as another text.
+  void Keep() noexcept { KeepAs({line_.text, static_cast<std::size_t>(line_.length)}); }
+  void KeepAs(std::string_view text) noexcept;
   // Puts a text into the new file; each of its lines ends in a line feed.
   void Write(std::string_view text) noexcept;
 
