@@ -23,12 +23,12 @@ void ScanFirst(const char* line, std::int32_t& position, Name& token) noexcept {
   ScanToken(line, position, token);
 }
 
-// Most lines of a file begin with neither BEGIN nor END, and their first letter says so.
+// Most lines of a file begin with neither BEGIN nor END, and their first two letters say so.
 bool MayBeBlockMark(const char* line) noexcept {
   std::int32_t at = 0;
   SkipSpace(line, at);
   const char first = ToLower(line[at]);
-  return first == 'b' || first == 'e';
+  return (first == 'b' && ToLower(line[at + 1]) == 'e') || (first == 'e' && ToLower(line[at + 1]) == 'n');
 }
 
 void CollapseBackslashes(char* text) noexcept {
@@ -89,17 +89,8 @@ void ResourceWalk::Feed(const char* line) noexcept {
     if (EqualIgnoreCase(first.view(), "BEGIN")) ++depth_;
     if (isEnd) --depth_;
   }
-  switch (kind_) {
-    case Kind::kBlock:
-      lastLine_ = isEnd && depth_ < 1;
-      break;
-    case Kind::kSingleLine:
-      lastLine_ = true;
-      break;
-    case Kind::kOther:
-      lastLine_ = isEnd;
-      break;
-  }
+  // Only a block waits for the END that closes its first BEGIN.
+  lastLine_ = kind_ == Kind::kSingleLine || (isEnd && (kind_ == Kind::kOther || depth_ < 1));
 }
 
 TypeList::TypeList(const char* list) noexcept : list_(View(list)), any_(View(list) == kAny) {
@@ -129,7 +120,6 @@ int LocateResource(const char* fileName, const char* resourceName, const char* t
   Line line;
   bool wanted = false;  // the resource the walk is in is the one sought
   for (std::int32_t number = 1; reader.Next(line); ++number) {
-    StripLineComment(line.text);
     walk.Feed(line.text);
     if (listing) {
       if (walk.IsHeader() && types.Holds(walk.keyword())) {
@@ -140,6 +130,7 @@ int LocateResource(const char* fileName, const char* resourceName, const char* t
     if (walk.IsHeader()) wanted = EqualIgnoreCase(walk.name().view(), sought);
     if (!walk.IsInside() || !wanted) continue;
     if (types.Holds(walk.keyword())) {
+      StripLineComment(line.text);
       writer.Append(line.text);
       *lines = {lines->first == 0 ? number : lines->first, number};
     }

@@ -268,6 +268,8 @@ TEST(DialogControls, AMissingTextIsEmptyAndAMissingIdentifierAFault) {
   EXPECT_EQ(ReadControls("LTEXT IDC_A,1,2,3,4"), "1 LTEXT IDC_A STATIC \"\" 1,2,3,4 10020000\n");
   EXPECT_EQ(ReadControls("LTEXT \"a\",\"b\",1,2,3,4"),
             "! Dialog <A>, Control Type <LTEXT>, Control i/d <?>, Statement 1 has incorrect syntax\n");
+  EXPECT_EQ(ReadControls("LTEXT \"a\",,1,2,3,4"),
+            "! Dialog <A>, Control Type <LTEXT>, Control i/d <?>, Statement 1 has incorrect syntax\n");
   EXPECT_EQ(ReadControls("LTEXT"),
             "! Dialog <A>, Control Type <LTEXT>, Control i/d <END>, Statement 1 has incorrect syntax\n");
 }

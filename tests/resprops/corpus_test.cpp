@@ -309,44 +309,60 @@ std::string WholeDiff(const std::string& before, const std::string& after) {
   return before == after ? "as it was\n" : test::LineDiff(before, after) + test::Checksum(after) + "\n";
 }
 
-TEST(Corpus, OfOurOwnComesThroughEachOperationAsAgreed) {
-  const std::string folder = "tests/surgery/";
-  const Texts names = test::ListFolder(test::ProjectPath(folder), {".rc"});
+// A file of the project with the header beside it, if it has one.
+Input LoadInput(const std::string& folder, const std::string& name) {
+  Input input{name, "", ""};
+  input.text = test::LoadBytes(folder + "/" + name).value_or("");
+  input.header = test::LoadBytes(folder + "/" + name.substr(0, name.rfind('.')) + ".h").value_or("");
+  return input;
+}
+
+std::string OnlyChecksum(const std::string&, const std::string& after) {
+  return test::Checksum(after) + "\n";
+}
+
+std::string ReportFolder(const std::string& folder, const Texts& names) {
+  std::string report;
+  for (const std::string& name : names) {
+    SCOPED_TRACE(name);
+    const Input input = LoadInput(folder, name);
+    report += "==== " + name + "\n" + Surgery(input).Run(OnlyChecksum);
+  }
+  return report;
+}
+
+TEST(SurgeryCorpus, ComesThroughEachOperationAsAgreed) {
+  const std::string folder = test::ProjectPath("tests/surgery");
+  const Texts names = test::ListFolder(folder, {".rc"});
   ASSERT_GE(names.size(), 40U);
   for (const std::string& name : names) {
     SCOPED_TRACE(name);
-    Input input{name, "", ""};
-    ASSERT_TRUE(test::LoadBytes(test::ProjectPath(folder + name), input.text));
-    const std::string stem = name.substr(0, name.size() - 3);
-    test::LoadBytes(test::ProjectPath(folder + stem + ".h"), input.header);
-    test::ExpectGolden(folder + "golden/" + stem + ".txt", Surgery(input).Run(WholeDiff));
+    const Input input = LoadInput(folder, name);
+    test::ExpectGolden("surgery/" + name + ".txt", Surgery(input).Run(WholeDiff));
   }
 }
 
-TEST(Corpus, OfAFileThatIsMissing) {
-  const Input input{"missing.rc", "", ""};
+TEST(SurgeryCorpus, ScriptsForTheReadersComeThroughEachOperationAsAgreed) {
+  const std::string folder = test::ProjectPath("tests/scripts");
+  const Texts names = test::ListFolder(folder, {".rc"});
+  ASSERT_GE(names.size(), 30U);
+  test::ExpectGolden("surgery/scripts-for-the-readers.txt", ReportFolder(folder, names));
+}
+
+TEST(SurgeryCorpus, OtherPeoplesFilesComeThroughEachOperationAsAgreed) {
+  const std::string folder = test::CorpusFolder();
+  const Texts names = test::ListFolder(folder, {".rc", ".dlg"});
+  if (names.empty()) GTEST_SKIP() << "no scripts of other people at " << folder << " (set BRELT_CORPUS)";
+  test::ExpectGolden("surgery/other-peoples-files.txt", ReportFolder(folder, names));
+}
+
+TEST(SurgeryCorpus, OfAFileThatIsMissing) {
   test::ResetHost();
   EXPECT_EQ(test::Delete("Main"), "");
   EXPECT_EQ(test::Rename("Main", "Other"), "Resource file <c:\\work\\a.rc> is invalid or missing.");
   EXPECT_TRUE(test::ListFiles().empty());
   EXPECT_EQ(test::WriteText(kAddition), "");
   EXPECT_EQ(test::ReadFile(kRc), test::Crlf(std::string(kAddition) + "\n"));
-}
-
-TEST(Corpus, OfOtherPeoplesFilesComesThroughEachOperationAsAgreed) {
-  const std::string folder = test::CorpusFolder();
-  const Texts names = test::ListFolder(folder, {".rc", ".dlg"});
-  if (names.empty()) GTEST_SKIP() << "no corpus in " << folder;
-  std::string report;
-  for (const std::string& name : names) {
-    SCOPED_TRACE(name);
-    Input input{name, "", ""};
-    ASSERT_TRUE(test::LoadBytes(folder + "/" + name, input.text));
-    report += "==== " + name + "\n" + Surgery(input).Run([](const std::string&, const std::string& after) {
-      return test::Checksum(after) + "\n";
-    });
-  }
-  test::ExpectGolden("tests/surgery/golden/other-peoples-files.txt", report);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "resprops/classkeyword.h"
 #include "resprops/escape.h"
 #include "tests/support/guarded.h"
+#include "tests/support/memoryhost.h"
 
 namespace brelt::resprops {
 namespace {
@@ -163,7 +164,12 @@ TEST(AppendWrapped, IndentsAtTheBeginningOfALineAndBreaksWhereAPieceWouldReachTo
 
 // ---- RecordsToText ----
 
-class RecordsToTextTest : public ::testing::Test {
+class FreshHost : public ::testing::Test {
+ protected:
+  FreshHost() { test::ResetHost(); }
+};
+
+class RecordsToTextTest : public FreshHost {
  protected:
   rc::ResourceRecord& Add(const char* keyword, const char* name, const char* text = "",
                           std::uint32_t style = 0) {

@@ -22,7 +22,7 @@ TEST(Schema, OfEachTypeIsAsItWasAgreed) {
     const std::string name(row.name);
     all += "[" + name + "]\n" + SchemaOf(name.c_str());
   }
-  test::ExpectGolden("tests/resprops/golden/schema.txt", all);
+  test::ExpectGolden("resprops/schema.txt", all);
 }
 
 TEST(Schema, IsChosenByTheNameWhateverItsCaseAndTheBlanksAroundIt) {

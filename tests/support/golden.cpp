@@ -7,39 +7,44 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 
 namespace brelt::test {
 namespace {
 
-// The first line in which two texts differ, as both have it.
-std::string FirstDifference(const std::string& expected, const std::string& actual) {
-  const auto [left, right] = std::mismatch(expected.begin(), expected.end(), actual.begin(), actual.end());
-  const auto line = std::count(expected.begin(), left, '\n') + 1;
-  const auto rest = [](const std::string& text, std::string::const_iterator at) {
-    const std::size_t offset = static_cast<std::size_t>(at - text.begin());
-    const std::size_t start = offset == 0 ? 0 : text.rfind('\n', offset - 1) + 1;
-    return text.substr(start, text.find('\n', offset) - start);
-  };
-  return "line " + std::to_string(line) + "\nexpected: " + rest(expected, left) +
-         "\nactual:   " + rest(actual, right);
+std::string Root() {
+  if (const char* named = std::getenv("BRELT_ROOT"); named != nullptr && *named != '\0') return named;
+  const std::string built = BRELT_SOURCE_DIR;
+#ifdef _WIN32
+  // Wine shows the machine that the tests were built on as drive z.
+  if (built.front() == '/') return "z:" + built;
+#endif
+  return built;
+}
+
+// The first line that differs, from both sides.
+std::string FirstDifference(const std::string& expected, const std::string& result) {
+  std::istringstream left(expected);
+  std::istringstream right(result);
+  for (int number = 1;; ++number) {
+    std::string a;
+    std::string b;
+    const bool moreLeft = static_cast<bool>(std::getline(left, a));
+    const bool moreRight = static_cast<bool>(std::getline(right, b));
+    if (!moreLeft && !moreRight) return "only the last line feed differs";
+    if (moreLeft && moreRight && a == b) continue;
+    return "line " + std::to_string(number) + "\n  expected " + (moreLeft ? a : "no more lines") +
+           "\n  but got  " + (moreRight ? b : "no more lines");
+  }
 }
 
 }  // namespace
 
-bool LoadBytes(const std::string& path, std::string& bytes) {
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return false;
-  bytes.assign(std::istreambuf_iterator<char>(file), {});
-  return true;
-}
+std::string ProjectPath(const std::string& path) { return Root() + "/" + path; }
 
-std::string ProjectPath(const std::string& name) {
-#ifdef _WIN32
-  // Built on another system, whose files are this drive.
-  return "z:" BRELT_SOURCE_DIR "/" + name;
-#else
-  return BRELT_SOURCE_DIR "/" + name;
-#endif
+std::string CorpusFolder() {
+  const char* named = std::getenv("BRELT_CORPUS");
+  return named != nullptr && *named != '\0' ? named : ProjectPath("../shared/corpus");
 }
 
 std::vector<std::string> ListFolder(const std::string& folder, const std::vector<std::string>& extensions) {
@@ -54,19 +59,18 @@ std::vector<std::string> ListFolder(const std::string& folder, const std::vector
   return names;
 }
 
-std::string CorpusFolder() {
-  const char* chosen = std::getenv("BRELT_CORPUS");
-  return chosen != nullptr ? chosen : ProjectPath("../shared/corpus");
+std::optional<std::string> LoadBytes(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file) return std::nullopt;
+  return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
-void ExpectGolden(const std::string& name, const std::string& text) {
-  const std::string path = ProjectPath(name);
-  std::string expected;
-  const bool found = LoadBytes(path, expected);
-  if (found && expected == text) return;
-  std::ofstream(path + ".new", std::ios::binary) << text;
-  ADD_FAILURE() << name << (found ? " differs at " + FirstDifference(expected, text) : " is missing")
-                << "\nSee " << name << ".new";
+void ExpectGolden(const std::string& name, const std::string& result) {
+  const std::string path = ProjectPath("tests/golden/" + name);
+  const std::optional<std::string> expected = LoadBytes(path);
+  if (expected == result) return;
+  std::ofstream(path + ".new", std::ios::binary) << result;
+  ADD_FAILURE() << path << (expected ? " differs in " + FirstDifference(*expected, result) : " is missing");
 }
 
 }  // namespace brelt::test

@@ -1,26 +1,28 @@
-// Expected results of more than a few lines, kept as files beside the tests.
+// Results of more than a few lines, kept in files beside the tests.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace brelt::test {
 
-// A file of this machine, not of the core's host; false when it can't be read.
-bool LoadBytes(const std::string& path, std::string& bytes);
+// A file of this project by its path from the project's root. BRELT_ROOT names another root than the one that
+// the tests were built from.
+std::string ProjectPath(const std::string& path);
 
-// The path of a file of the project, from its root.
-std::string ProjectPath(const std::string& name);
-
-// The files of a folder whose name has one of the extensions, sorted; none when there is no such folder.
-std::vector<std::string> ListFolder(const std::string& folder, const std::vector<std::string>& extensions);
-
-// Where RC files that other people wrote are: the folder that BRELT_CORPUS names, or ../shared/corpus beside
-// the project.
+// Where scripts that other people wrote are: the folder that BRELT_CORPUS names, or one beside the project.
 std::string CorpusFolder();
 
-// Expects that text equals a file of the project byte for byte. Otherwise what it is stands in a file with
-// .new behind the name, beside the expected one, to be looked at and, if it is right, to take its place.
-void ExpectGolden(const std::string& name, const std::string& text);
+// The names of the files in a folder of this machine that have one of the extensions, sorted; none when there
+// is no such folder.
+std::vector<std::string> ListFolder(const std::string& folder, const std::vector<std::string>& extensions);
+
+// The bytes of a file of this machine; nothing when it can't be read.
+std::optional<std::string> LoadBytes(const std::string& path);
+
+// Compares a result with the file tests/golden/NAME. Where they differ the test fails with the first line
+// that does, and the result is written beside the file with ".new" at the end of its name.
+void ExpectGolden(const std::string& name, const std::string& result);
 
 }  // namespace brelt::test
