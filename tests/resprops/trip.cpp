@@ -147,6 +147,8 @@ rc::ResourceRecord ExpectedEntry(const rc::ResourceRecord& entry, bool isPopup) 
 
 // ---- Trips ----
 
+int comparedTrips = 0;
+
 int CountRecords(rc::RecordArray& records) {
   int count = 0;
   while (count < rc::kRecordCount && !records[count].keyword.IsEmpty()) ++count;
@@ -171,6 +173,7 @@ std::string DialogTrip(rc::RecordArray& from, rc::RecordArray& to) {
   for (int i = 1; i < count && difference.empty(); ++i)
     difference = Compare(ExpectedControl(from[i]), to[i], i);
   if (difference.empty() && CountRecords(to) != count) difference = "another number of records";
+  ++comparedTrips;
   return difference.empty() ? "" : difference + text;
 }
 
@@ -186,19 +189,20 @@ std::string MenuTrip(rc::RecordArray& from, rc::RecordArray& to) {
     difference = Compare(ExpectedEntry(from[i], isPopup), to[i], i);
   }
   if (difference.empty() && CountRecords(to) != count) difference = "another number of records";
+  ++comparedTrips;
   return difference.empty() ? "" : difference + text;
 }
 
-// Whether a menu has a popup with nothing in it: it is written as an item without a name, which isn't read as
-// meant.
-bool HasEmptyPopup(rc::RecordArray& menu) {
+// Whether the levels are those of a menu that is read as it was written: each entry but the header at least
+// one deep, and no popup with nothing in it, which is written as an item without a name.
+bool HasSoundLevels(rc::RecordArray& menu) {
   const int count = CountRecords(menu);
-  for (int i = 1; i < count; ++i) {
-    const bool isLeaf = i + 1 == count || menu[i + 1].x <= menu[i].x;
-    if (isLeaf && menu[i].name.IsEmpty() && !menu[i].text.IsEmpty()) return true;
-    if (i + 1 < count && menu[i + 1].x > menu[i].x + 1) return true;
+  for (int i = 0; i < count; ++i) {
+    const std::int32_t next = i + 1 < count ? menu[i + 1].x : 0;
+    if ((i > 0 && menu[i].x < 1) || next > menu[i].x + 1) return false;
+    if (i > 0 && next <= menu[i].x && menu[i].name.IsEmpty() && !menu[i].text.IsEmpty()) return false;
   }
-  return false;
+  return true;
 }
 
 std::string Joined(const Parts& parts) {
@@ -235,7 +239,8 @@ bool IsReadableDialog(rc::RecordArray& records) {
   if (!isKnownClass) return false;
   const int count = CountRecords(records);
   for (int i = 1; i < count; ++i) {
-    if (!IsToken(records[i].name.view())) return false;
+    const bool isControl = rc::FindControlStatement(records[i].keyword.view()) != nullptr;
+    if (!isControl || !IsToken(records[i].name.view())) return false;
   }
   return true;
 }
@@ -243,10 +248,11 @@ bool IsReadableDialog(rc::RecordArray& records) {
 bool IsReadableMenu(rc::RecordArray& records) {
   if (!IsToken(records[0].name.view()) || !rc::IsIdentifier(records[0].name.c_str())) return false;
   const int count = CountRecords(records);
-  for (int i = 1; i < count; ++i) {
+  for (int i = 0; i < count; ++i) {
+    if (records[i].keyword.view() != "MENUITEM") return false;
     if (!records[i].name.IsEmpty() && !IsToken(records[i].name.view())) return false;
   }
-  return !HasEmptyPopup(records);
+  return HasSoundLevels(records);
 }
 
 // Reads records into rows, and rows into records and text and rows again, which must be the same rows.
@@ -283,6 +289,8 @@ bool HasStableRows(const rc::ResourceRecord& window) {
 
 }  // namespace
 
+int ComparedTrips() { return comparedTrips; }
+
 std::string CheckDialogTrip(const Parts& parts) {
   Workshop& shop = Shop();
   std::string text = parts.empty() ? "" : parts[0] + "\nBEGIN\n";
@@ -298,10 +306,10 @@ std::string CheckMenuTrip(const Parts& parts) {
   Workshop& shop = Shop();
   const std::string text = "Form MENU\nBEGIN\n" + Joined(parts) + "END\n";
   if (!rc::ParseMenu(text.c_str(), shop.first.table(), shop.message)) return "";
-  if (!IsReadableMenu(shop.first)) return "";
   // All rows of a menu are of one type, and so are the records that are made of them.
   const int count = CountRecords(shop.first);
   for (int i = 0; i < count; ++i) shop.first[i].keyword.Assign("MENUITEM");
+  if (!IsReadableMenu(shop.first)) return "";
   if (const std::string fault = MenuTrip(shop.first, shop.second); !fault.empty()) return fault;
   return CheckStableRows(shop.second, MenuTrip);
 }

@@ -21,6 +21,10 @@ std::string CheckMenuTrip(const Parts& parts);
 std::string CheckDialogRows(const Parts& rows);
 std::string CheckMenuRows(const Parts& rows);
 
+// How many trips the checks have made and compared so far, so that nobody takes input that no reader takes
+// for success.
+int ComparedTrips();
+
 // The smallest input that still fails a check, found by leaving out parts and pieces of them.
 Parts Shrunk(Parts parts, const Check& check);
 

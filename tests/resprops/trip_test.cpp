@@ -20,6 +20,7 @@ void RunCases(Parts (RandomInput::*make)(), const Check& check) {
   ResetHost();
   const unsigned firstSeed = static_cast<unsigned>(NumberFrom("BRELT_SEED", 1));
   const int cases = NumberFrom("BRELT_CASES", 13000);
+  const int comparedBefore = ComparedTrips();
   std::size_t objects = 0;
   for (int i = 0; i < cases; ++i) {
     RandomInput input(firstSeed * 1000003u + static_cast<unsigned>(i));
@@ -31,6 +32,7 @@ void RunCases(Parts (RandomInput::*make)(), const Check& check) {
     for (const std::string& part : smallest) shown += "---- part\n" + part + "\n";
     FAIL() << "case " << i << " comes down to\n" << shown << "---- fault\n" << check(smallest);
   }
+  EXPECT_GE(ComparedTrips() - comparedBefore, cases) << "most cases should come to a comparison";
   ::testing::Test::RecordProperty("objects", static_cast<int>(objects));
 }
 
