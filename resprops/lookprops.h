@@ -150,10 +150,10 @@ inline constexpr Property kComboStyle(
 
 inline void ReadPosition(const ObjectView& object, rc::TextWriter& value) noexcept {
   const rc::ResourceRecord& record = object.record;
-  if (object.isMenuRow) {
-    value.Format("%i", record.x);
-  } else {
-    value.Format("%i %i %i %i", record.x, record.y, record.width, record.height);
+  AppendNumber(value, record.x);
+  if (object.isMenuRow) return;
+  for (const std::int32_t number : {record.y, record.width, record.height}) {
+    AppendNumber(value.Append(' '), number);
   }
 }
 

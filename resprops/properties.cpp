@@ -1,4 +1,5 @@
 #include <array>
+#include <charconv>
 
 #include "resprops/colourprops.h"
 #include "resprops/lookprops.h"
@@ -94,6 +95,12 @@ ObjectView::ObjectView(const rc::ResourceRecord& parsed, int index, bool inDialo
       isFirst(index == 0),
       isWindow(inDialog && index == 0),
       isMenuRow(IsMenuKeyword(parsed.keyword.view())) {}
+
+void AppendNumber(rc::TextWriter& value, std::int32_t number) noexcept {
+  char digits[12];
+  const std::to_chars_result result = std::to_chars(digits, digits + sizeof digits, number);
+  value.Append({digits, static_cast<std::size_t>(result.ptr - digits)});
+}
 
 void IconFiles::Find(const char* iconName, host::Path& file) noexcept {
   if (!directory_) directory_.emplace(rcFile_);

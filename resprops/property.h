@@ -74,6 +74,9 @@ struct ObjectView {
   bool isMenuRow;  // anything of a MENU
 };
 
+// In decimal. Nearly all values are numbers, and a formatted print takes several times as long.
+void AppendNumber(rc::TextWriter& value, std::int32_t number) noexcept;
+
 using NumberReader = std::int32_t (*)(const ObjectView& object) noexcept;
 using TextReader = void (*)(const ObjectView& object, rc::TextWriter& value) noexcept;
 

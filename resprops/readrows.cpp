@@ -25,7 +25,7 @@ void AppendProperty(const Property& property, const ObjectView& object, rc::Text
   rc::TextWriter writer(line);
   writer.Append(property.key).Append('=');
   if (property.readNumber != nullptr) {
-    writer.Format("%i", property.readNumber(object));
+    AppendNumber(writer, property.readNumber(object));
   } else {
     property.readText(object, writer);
   }

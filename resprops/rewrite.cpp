@@ -30,12 +30,6 @@ bool MakeTempName(const char* path, TempPath& temp) noexcept {
   return false;
 }
 
-void TrimLine(rc::Line& line) noexcept {
-  const auto isLineEnd = [](char c) { return c == '\n' || c == '\r'; };
-  while (line.length > 0 && isLineEnd(line.text[line.length - 1])) --line.length;
-  line.text[line.length] = '\0';
-}
-
 Rewrite::Rewrite(const char* path) noexcept : path_(path) {
   isUnchanged_ = !MoveAside(path, temp_);
   if (isUnchanged_) return;
@@ -60,14 +54,14 @@ void Rewrite::Restart() noexcept {
 }
 
 void Rewrite::KeepAs(std::string_view text) noexcept {
-  // The line feed of a line that fills its pieces comes as a piece of its own, and is no empty line.
-  const bool endsOpenLine = isLineOpen_ && kept_ == number_ - 1 && IsEmptyLine();
+  const bool isBehindOpenLine = isLineOpen_ && kept_ == number_ - 1;
   kept_ = number_;
-  if (!endsOpenLine) {
+  // The line feed of a line that fills its pieces comes as a piece of its own, and is no empty line.
+  if (!isBehindOpenLine || !IsEmptyLine()) {
     EndLine();
     writer_->WriteBytes(text);
-    isLineOpen_ = true;
   }
+  isLineOpen_ = true;
   if (hasLineFeed_) EndLine();
 }
 
@@ -77,7 +71,7 @@ void Rewrite::Write(std::string_view text) noexcept {
 }
 
 void Rewrite::EndLine() noexcept {
-  if (isLineOpen_) writer_->Write("\n");
+  if (isLineOpen_) writer_->WriteBytes("\r\n");
   isLineOpen_ = false;
 }
 

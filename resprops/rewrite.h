@@ -19,7 +19,12 @@ using TempPath = rc::FixedText<RcPath::kCapacity + 16>;
 bool MakeTempName(const char* path, TempPath& temp) noexcept;
 
 // Takes the line end off a line.
-void TrimLine(rc::Line& line) noexcept;
+inline void TrimLine(rc::Line& line) noexcept {
+  char* end = line.text + line.length;
+  while (end > line.text && (end[-1] == '\n' || end[-1] == '\r')) --end;
+  *end = '\0';
+  line.length = static_cast<int>(end - line.text);
+}
 
 class Rewrite {
  public:

@@ -5,16 +5,13 @@
 namespace brelt::resprops {
 
 void TextFile::Write(std::string_view text) noexcept {
-  for (;;) {
-    const std::size_t lineFeed = text.find('\n');
-    WriteBytes(text.substr(0, lineFeed));
-    if (lineFeed == std::string_view::npos) return;
-    WriteBytes("\r\n");
-    text.remove_prefix(lineFeed + 1);
+  for (std::size_t end; (end = text.find('\n')) != std::string_view::npos; text.remove_prefix(end + 1)) {
+    WriteLine(text.substr(0, end));
   }
+  WriteBytes(text);
 }
 
-void TextFile::WriteBytes(std::string_view bytes) noexcept {
+void TextFile::WriteBlocks(std::string_view bytes) noexcept {
   while (!bytes.empty()) {
     if (used_ == kBufferSize) Flush();
     const std::size_t count = std::min(bytes.size(), kBufferSize - used_);

@@ -17,14 +17,24 @@ class TextFile {
 
   bool IsOpen() const noexcept { return static_cast<bool>(file_); }
   void Write(std::string_view text) noexcept;
+  // A line without its line feed, which is written behind it.
+  void WriteLine(std::string_view line) noexcept {
+    WriteBytes(line);
+    WriteBytes("\r\n");
+  }
   // Bytes as they are.
-  void WriteBytes(std::string_view bytes) noexcept;
+  void WriteBytes(std::string_view bytes) noexcept {
+    if (bytes.size() > kBufferSize - used_) return WriteBlocks(bytes);
+    std::memcpy(buffer_ + used_, bytes.data(), bytes.size());
+    used_ += bytes.size();
+  }
   // Whether all that was written has reached the file.
   bool Close() noexcept;
 
  private:
-  static constexpr std::size_t kBufferSize = 32768;
+  static constexpr std::size_t kBufferSize = 65536;
 
+  void WriteBlocks(std::string_view bytes) noexcept;
   void Flush() noexcept;
 
   host::File file_;
