@@ -1,6 +1,6 @@
 // What the platform-free core needs from outside: memory, files by Windows paths, the current directory, the
-// program's path and the default font. The DLL links the Win32 implementation; tests link one that keeps files
-// in memory and can be told to fail.
+// program's path and the default font. The DLL links the Win32 implementation; tests link one that keeps
+// files in memory and can be told to fail.
 #pragma once
 
 #include <cstddef>
@@ -64,10 +64,10 @@ bool IsWritable(void* memory, std::size_t bytes) noexcept;
 // ---- Files ----
 
 enum class OpenMode {
-  kRead,      // existing files only
-  kReplace,   // made, or emptied if it exists
-  kAppend,    // made if need be; writes go to the end
-  kCreate,    // new files only: fails where anything of that name exists
+  kRead,     // existing files only
+  kReplace,  // made, or emptied if it exists
+  kAppend,   // made if need be; writes go to the end
+  kCreate,   // new files only: fails where anything of that name exists
 };
 
 // An open file. Reads and writes are of raw bytes; the readers and writers of text do the translation.
@@ -95,9 +95,7 @@ class File {
   int Read(char* buffer, int size) noexcept { return ReadBytes(handle_, buffer, size); }
   bool Seek(std::uint64_t offset) noexcept { return SeekFile(handle_, offset); }
   bool Write(const char* bytes, int size) noexcept { return WriteBytes(handle_, bytes, size); }
-  bool Close() noexcept {
-    return handle_ == nullptr || CloseFile(std::exchange(handle_, nullptr));
-  }
+  bool Close() noexcept { return handle_ == nullptr || CloseFile(std::exchange(handle_, nullptr)); }
 
  private:
   FileHandle* handle_;

@@ -1,4 +1,5 @@
-// The six menu operations that building a menu needs. The DLL links the platform's; tests link a model in memory.
+// The six menu operations that building a menu needs. The DLL links the platform's; tests link a model in
+// memory.
 #pragma once
 
 #include <cstdint>

@@ -38,7 +38,7 @@ void Build(const char* text) {
   rows[0].Value = 5;
   const rc::SymbolIndex symbols(rows);
   rc::AcceleratorTable keys{};
-  rc::MenuFault fault;
+  rc::Failure fault;
   host::MenuHandle* menu = rc::BuildMenu(text, symbols, keys, fault);
   Require((menu == nullptr) == static_cast<bool>(fault), "a menu or a message");
   Require(static_cast<bool>(fault) == (fault.code != RTX_OK), "a message has a code");

@@ -1,40 +1,40 @@
-/* Failure codes, events and private messages of brelt.dll. Plain numbers without any dependence on the platform's
- * headers: programs, custom control modules and the library itself all take them from here. */
+/* Failure codes, events and private messages of brelt.dll. Plain numbers without any dependence on the
+ * platform's headers: programs, custom control modules and the library itself all take them from here. */
 #ifndef BRELT_EVENTS_H
 #define BRELT_EVENTS_H
 
 /* Failure codes: what an export that returns a code returns. 0 is success. */
 enum {
   RTX_OK = 0,
-  RTX_CONTROL_DLL = 701,     /* a custom control's module can't be loaded, or its class has no valid procedure */
-  RTX_NO_WINDOW = 702,       /* the name finds no window of this thread, or a handle isn't a window */
-  RTX_WRONG_KIND = 703,      /* the object exists, but the operation doesn't apply to it */
-  RTX_RESOURCE_FILE = 704,   /* the RC file name isn't acceptable, or the file is missing or unreadable */
-  RTX_PICTURE_BUFFER = 705,  /* the picture buffer is missing or too small */
-  RTX_SECOND_OWNER = 706,    /* a second top-level window that is no popup */
-  RTX_NO_CONTROL_ID = 707,   /* id 0 in a control-array call */
-  RTX_NO_MEMORY = 708,       /* memory couldn't be had */
-  RTX_NO_CANVAS = 709,       /* the window has no canvas and none could be made */
-  RTX_BAD_PICTURE = 710,     /* a picture is null, empty or invalid, or its file can't be read or written */
-  RTX_BAD_ICON = 711,        /* no instance or file name, or an icon file without a usable image */
-  RTX_BAD_FONT = 712,        /* a font couldn't be changed */
-  RTX_SHOW_MODAL = 713,      /* the window can't be shown modally now */
-  RTX_SHOW_MODELESS = 714,   /* the window can't be shown now */
-  RTX_NO_DIALOG = 721,       /* no window name, or the RC file has no DIALOG of that name */
-  RTX_NO_MENU = 722,         /* the RC file lacks the MENU that the DIALOG names */
-  RTX_UNDEFINED_ID = 723,    /* the identifier of a control or menu item has no number */
-  RTX_ICON_FILE = 724,       /* an ICON control names no icon of the RC file */
-  RTX_DIALOG_SYNTAX = 725,   /* the DIALOG doesn't parse */
-  RTX_MENU_SYNTAX = 726,     /* the MENU doesn't parse */
-  RTX_NO_ITEM = 727,         /* the id names neither a control nor a menu item of the window */
-  RTX_CLASS = 728,           /* the CLASS isn't allowed, or the class or window couldn't be made */
-  RTX_NULL_BOOL = 751,       /* the output for a truth value is null */
-  RTX_NULL_INT = 753,        /* an output for a number is null */
-  RTX_NULL_ARG = 756,        /* the object name or a required text is null */
-  RTX_NULL_ARRAY = 760,      /* an array argument is null */
-  RTX_PRINT_PAGE = 922,      /* a page couldn't be ended or started; the job was aborted */
-  RTX_PRINT_START = 923,     /* the print job couldn't be started */
-  RTX_NO_PRINTER = 924       /* no print job is open */
+  RTX_CONTROL_DLL = 701, /* a custom control's module can't be loaded, or its class has no valid procedure */
+  RTX_NO_WINDOW = 702,   /* the name finds no window of this thread, or a handle isn't a window */
+  RTX_WRONG_KIND = 703,  /* the object exists, but the operation doesn't apply to it */
+  RTX_RESOURCE_FILE = 704,  /* the RC file name isn't acceptable, or the file is missing or unreadable */
+  RTX_PICTURE_BUFFER = 705, /* the picture buffer is missing or too small */
+  RTX_SECOND_OWNER = 706,   /* a second top-level window that is no popup */
+  RTX_NO_CONTROL_ID = 707,  /* id 0 in a control-array call */
+  RTX_NO_MEMORY = 708,      /* memory couldn't be had */
+  RTX_NO_CANVAS = 709,      /* the window has no canvas and none could be made */
+  RTX_BAD_PICTURE = 710,    /* a picture is null, empty or invalid, or its file can't be read or written */
+  RTX_BAD_ICON = 711,       /* no instance or file name, or an icon file without a usable image */
+  RTX_BAD_FONT = 712,       /* a font couldn't be changed */
+  RTX_SHOW_MODAL = 713,     /* the window can't be shown modally now */
+  RTX_SHOW_MODELESS = 714,  /* the window can't be shown now */
+  RTX_NO_DIALOG = 721,      /* no window name, or the RC file has no DIALOG of that name */
+  RTX_NO_MENU = 722,        /* the RC file lacks the MENU that the DIALOG names */
+  RTX_UNDEFINED_ID = 723,   /* the identifier of a control or menu item has no number */
+  RTX_ICON_FILE = 724,      /* an ICON control names no icon of the RC file */
+  RTX_DIALOG_SYNTAX = 725,  /* the DIALOG doesn't parse */
+  RTX_MENU_SYNTAX = 726,    /* the MENU doesn't parse */
+  RTX_NO_ITEM = 727,        /* the id names neither a control nor a menu item of the window */
+  RTX_CLASS = 728,          /* the CLASS isn't allowed, or the class or window couldn't be made */
+  RTX_NULL_BOOL = 751,      /* the output for a truth value is null */
+  RTX_NULL_INT = 753,       /* an output for a number is null */
+  RTX_NULL_ARG = 756,       /* the object name or a required text is null */
+  RTX_NULL_ARRAY = 760,     /* an array argument is null */
+  RTX_PRINT_PAGE = 922,     /* a page couldn't be ended or started; the job was aborted */
+  RTX_PRINT_START = 923,    /* the print job couldn't be started */
+  RTX_NO_PRINTER = 924      /* no print job is open */
 };
 
 /* Events: the second argument of a program's event function. */
@@ -50,10 +50,10 @@ enum {
   EV_KEYPRESS = 32775,   /* key lParam, focus on control wParam; a result above 0 uses the key up */
   EV_LOAD = 32776,       /* the window is complete and still hidden */
   EV_RIGHTDOWN = 32777,  /* as EV_MOUSEDOWN for the right button */
-  EV_RESIZE = 32778,     /* lParam is the client size before the change: height in the high word, then width */
-  EV_SELCHANGE = 32779,  /* the selection of an edit window moved */
-  EV_TIMER = 32780,      /* timer wParam */
-  EV_CLOSE = 32781       /* a result other than 0 keeps the window open */
+  EV_RESIZE = 32778,    /* lParam is the client size before the change: height in the high word, then width */
+  EV_SELCHANGE = 32779, /* the selection of an edit window moved */
+  EV_TIMER = 32780,     /* timer wParam */
+  EV_CLOSE = 32781      /* a result other than 0 keeps the window open */
 };
 
 /* Private messages of the library's own windows. Arguments are wParam and lParam. */

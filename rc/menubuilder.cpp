@@ -12,17 +12,17 @@ namespace {
 class MenuBuilder {
  public:
   MenuBuilder(const char* text, const SymbolIndex& symbols, AcceleratorTable& accelerators,
-              MenuFault& fault) noexcept
-      : text_(text), symbols_(symbols), accelerators_(accelerators), fault_(fault) {}
+              Failure& failure) noexcept
+      : text_(text), symbols_(symbols), accelerators_(accelerators), failure_(failure) {}
 
   host::MenuHandle* Build() noexcept {
     host::MenuHandle* menu = BuildBar();
-    if (!fault_) return menu;
+    if (!failure_) return menu;
     if (menu != nullptr) host::DestroyMenuTree(menu);
     FixedText<64> place;
     TokenPlaceText(text_, position_, place);
-    fault_.message.Append(" ");
-    fault_.message.Append(place.view());
+    failure_.message.Append(" ");
+    failure_.message.Append(place.view());
     return nullptr;
   }
 
@@ -31,8 +31,8 @@ class MenuBuilder {
   bool TokenIs(std::string_view word) const noexcept { return EqualIgnoreCase(token_.view(), word); }
   // Fails unless the token in hand is the keyword.
   bool Expect(std::string_view keyword, std::string_view failure) noexcept {
-    if (!TokenIs(keyword)) fault_.Set(RTX_MENU_SYNTAX, failure);
-    return !fault_;
+    if (!TokenIs(keyword)) failure_.Set(RTX_MENU_SYNTAX, failure);
+    return !failure_;
   }
 
   host::MenuHandle* BuildBar() noexcept;
@@ -45,7 +45,7 @@ class MenuBuilder {
   const char* text_;
   const SymbolIndex& symbols_;
   AcceleratorTable& accelerators_;
-  MenuFault& fault_;
+  Failure& failure_;
   std::int32_t position_ = 0;
   Token token_;  // the token in hand
   Token itemText_;
@@ -63,26 +63,26 @@ host::MenuHandle* MenuBuilder::BuildBar() noexcept {
   if (!Expect("BEGIN", "BEGIN expected")) return nullptr;
   host::MenuHandle* menu = host::MakeMenu();
   if (menu == nullptr) {
-    fault_.Set(RTX_NO_MEMORY, kMenuNoMemory);
+    failure_.Set(RTX_NO_MEMORY, kMenuNoMemory);
     return nullptr;
   }
   BuildElements(menu);
-  if (!fault_) AddTitleKeys(menu);
+  if (!failure_) AddTitleKeys(menu);
   return menu;
 }
 
 // {item | popup} "END". A statement of another kind ends the elements, and is then no END.
 void MenuBuilder::BuildElements(host::MenuHandle* menu) noexcept {
   Next();
-  while (!fault_ && (TokenIs("MENUITEM") || TokenIs("POPUP"))) {
+  while (!failure_ && (TokenIs("MENUITEM") || TokenIs("POPUP"))) {
     if (TokenIs("POPUP")) {
       BuildPopup(menu);
     } else {
       BuildItem(menu);
     }
-    if (!fault_) Next();
+    if (!failure_) Next();
   }
-  if (!fault_) Expect("END", "END expected");
+  if (!failure_) Expect("END", "END expected");
 }
 
 // "MENUITEM" ("SEPARATOR" | string "," identifier options). A faulty item is appended like any other: the
@@ -90,13 +90,13 @@ void MenuBuilder::BuildElements(host::MenuHandle* menu) noexcept {
 void MenuBuilder::BuildItem(host::MenuHandle* menu) noexcept {
   Next();
   if (TokenIs("SEPARATOR")) return host::AppendItem(menu, kMenuSeparator, 0, nullptr);
-  if (*token_.c_str() != '"') return fault_.Set(RTX_MENU_SYNTAX, kMenuStringExpected);
+  if (*token_.c_str() != '"') return failure_.Set(RTX_MENU_SYNTAX, kMenuStringExpected);
   token_.Assign(StringBody(token_.view()));
   UnescapeText(token_.c_str(), itemText_);
   Next();
-  if (!TokenIs(",")) return fault_.Set(RTX_MENU_SYNTAX, kMenuCommaExpected);
+  if (!TokenIs(",")) return failure_.Set(RTX_MENU_SYNTAX, kMenuCommaExpected);
   const std::int32_t command = ReadCommand();
-  const std::uint32_t options = ReadMenuOptions(text_, position_, fault_);
+  const std::uint32_t options = ReadMenuOptions(text_, position_, failure_);
   host::AppendItem(menu, options, command, itemText_.c_str());
   AddAccelerators(itemText_.c_str(), command, accelerators_);
 }
@@ -108,7 +108,7 @@ std::int32_t MenuBuilder::ReadCommand() noexcept {
   const std::int32_t command = FindSymbolValue(symbols_, token_.c_str());
   if (command == 0) {
     FoldToUpper(token_.data());
-    fault_.Set(RTX_UNDEFINED_ID, "Menu command identifier not defined: ", token_.view());
+    failure_.Set(RTX_UNDEFINED_ID, "Menu command identifier not defined: ", token_.view());
   }
   return command;
 }
@@ -120,10 +120,10 @@ void MenuBuilder::BuildPopup(host::MenuHandle* parent) noexcept {
   Next();
   const std::string_view token = token_.view();
   token_.Assign(token.size() > 2 ? token.substr(1, token.size() - 2) : std::string_view());
-  const std::uint32_t options = ReadMenuOptions(text_, position_, fault_) | kMenuPopup;
-  if (fault_) return;
+  const std::uint32_t options = ReadMenuOptions(text_, position_, failure_) | kMenuPopup;
+  if (failure_) return;
   host::MenuHandle* popup = host::MakePopupMenu();
-  if (popup == nullptr) return fault_.Set(RTX_NO_MEMORY, kMenuNoMemory);
+  if (popup == nullptr) return failure_.Set(RTX_NO_MEMORY, kMenuNoMemory);
   host::AppendPopup(parent, options, popup, token_.c_str());
   Next();
   if (Expect("BEGIN", "BEGIN expected")) BuildElements(popup);
@@ -146,22 +146,23 @@ void MenuBuilder::AddTitleKeys(host::MenuHandle* menu) noexcept {
 }  // namespace
 
 host::MenuHandle* BuildMenu(const char* text, const SymbolIndex& symbols, AcceleratorTable& accelerators,
-                            MenuFault& fault) noexcept {
-  fault = {};
-  return MenuBuilder(text, symbols, accelerators, fault).Build();
+                            Failure& failure) noexcept {
+  failure = {};
+  return MenuBuilder(text, symbols, accelerators, failure).Build();
 }
 
 host::MenuHandle* BuildMenuFromFile(const char* fileName, const char* menuName, const SymbolIndex& symbols,
-                                    AcceleratorTable& accelerators, MenuFault& fault) noexcept {
-  fault = {};
+                                    AcceleratorTable& accelerators, Failure& failure) noexcept {
+  failure = {};
   for (AcceleratorRow& row : accelerators) row = {};
   if (IsEmpty(menuName) || IsEmpty(fileName)) return nullptr;
 
   FixedText<63> prefix;
   prefix.Format("Menu <%-.*s>, ", kNameLength, menuName);
   const host::Block<char> text(kResourceTextSize);
-  const auto fail = [&fault](std::int32_t code, const char* first, const char* second) -> host::MenuHandle* {
-    fault.Set(code, first, second);
+  const auto fail = [&failure](std::int32_t code, const char* first,
+                               const char* second) -> host::MenuHandle* {
+    failure.Set(code, first, second);
     return nullptr;
   };
   if (!text) return fail(RTX_NO_MEMORY, prefix.c_str(), "not enough memory to create menu");
@@ -170,11 +171,8 @@ host::MenuHandle* BuildMenuFromFile(const char* fileName, const char* menuName, 
   if (LocateResource(fileName, menuName, "MENU", {text.get(), kResourceTextSize}) == 0) {
     return fail(RTX_NO_MENU, prefix.c_str(), "cannot be found in resource file");
   }
-  host::MenuHandle* menu = BuildMenu(text.get(), symbols, accelerators, fault);
-  if (fault) {
-    const FixedText<1023> reason = fault.message;
-    fault.Set(fault.code, prefix.view(), reason.view());
-  }
+  host::MenuHandle* menu = BuildMenu(text.get(), symbols, accelerators, failure);
+  if (failure) failure.Prefix(prefix.view());
   return menu;
 }
 

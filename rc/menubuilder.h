@@ -12,10 +12,10 @@ namespace brelt::rc {
 // Null with a failure whose message begins with the menu's name; null without one when either name is null or
 // empty. The caller owns the menu.
 host::MenuHandle* BuildMenuFromFile(const char* fileName, const char* menuName, const SymbolIndex& symbols,
-                                    AcceleratorTable& accelerators, MenuFault& fault) noexcept;
+                                    AcceleratorTable& accelerators, Failure& failure) noexcept;
 
 // The same from a resource's text. A failure has the line and column within the text at its end.
 host::MenuHandle* BuildMenu(const char* text, const SymbolIndex& symbols, AcceleratorTable& accelerators,
-                            MenuFault& fault) noexcept;
+                            Failure& failure) noexcept;
 
 }  // namespace brelt::rc

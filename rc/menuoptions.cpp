@@ -22,14 +22,14 @@ std::uint32_t OptionBit(std::string_view word) noexcept {
 
 }  // namespace
 
-std::uint32_t ReadMenuOptions(const char* text, std::int32_t& position, MenuFault& fault) noexcept {
+std::uint32_t ReadMenuOptions(const char* text, std::int32_t& position, Failure& failure) noexcept {
   std::uint32_t options = 0;
   Token token;
-  while (!fault && text[position] == ',') {
+  while (!failure && text[position] == ',') {
     ScanToken(text, position, token);
     ScanToken(text, position, token);
     const std::uint32_t bit = OptionBit(token.view());
-    if (bit == 0) fault.Set(RTX_MENU_SYNTAX, "Unknown menu option: ", token.view());
+    if (bit == 0) failure.Set(RTX_MENU_SYNTAX, "Unknown menu option: ", token.view());
     options |= bit;
   }
   return options;

@@ -1,7 +1,7 @@
 // What the two readers of a MENU share: the option words and the way a failure is reported.
 #pragma once
 
-#include "include/events.h"
+#include "rc/failure.h"
 #include "rc/scan.h"
 
 namespace brelt::rc {
@@ -19,21 +19,8 @@ inline constexpr const char* kMenuNoMemory = "Not enough memory to create menu";
 inline constexpr const char* kMenuStringExpected = "Menu option string expected";
 inline constexpr const char* kMenuCommaExpected = "Comma expected";
 
-// The first failure of a reader: its text, and the code that goes with it.
-struct MenuFault {
-  FixedText<1023> message;
-  std::int32_t code = RTX_OK;
-
-  explicit operator bool() const noexcept { return !message.IsEmpty(); }
-  void Set(std::int32_t failureCode, std::string_view text, std::string_view word = {}) noexcept {
-    code = failureCode;
-    message.Assign(text);
-    message.Append(word);
-  }
-};
-
 // {"," option}: the bits of the options. The comma must be there. Reads nothing once a failure is set, and
 // stops at a word that is no option, with "Unknown menu option: " and the word.
-std::uint32_t ReadMenuOptions(const char* text, std::int32_t& position, MenuFault& fault) noexcept;
+std::uint32_t ReadMenuOptions(const char* text, std::int32_t& position, Failure& failure) noexcept;
 
 }  // namespace brelt::rc

@@ -34,8 +34,8 @@ class MenuParser {
   void ParseHeader() noexcept;
   void ParseElements() noexcept;
   void ParseElement(ResourceRecord& record) noexcept;
-  void ReadItem(ResourceRecord& record, MenuFault& fault) noexcept;
-  void ReadPopup(ResourceRecord& record, MenuFault& fault) noexcept;
+  void ReadItem(ResourceRecord& record, Failure& failure) noexcept;
+  void ReadPopup(ResourceRecord& record, Failure& failure) noexcept;
 
   const char* FoundWord() noexcept {
     if (token_.IsEmpty()) BadWordText(text_, position_, token_);
@@ -103,43 +103,43 @@ void MenuParser::ParseElements() noexcept {
 }
 
 void MenuParser::ParseElement(ResourceRecord& record) noexcept {
-  MenuFault fault;
+  Failure failure;
   record.keyword.Assign(token_.view());
   if (TokenIs("POPUP")) {
-    ReadPopup(record, fault);
+    ReadPopup(record, failure);
   } else {
-    ReadItem(record, fault);
+    ReadItem(record, failure);
   }
-  if (fault) {
-    Fail().Format("Menu <%-.*s>, %s", kNameLength, MenuName(), fault.message.c_str());
+  if (failure) {
+    Fail().Format("Menu <%-.*s>, %s", kNameLength, MenuName(), failure.message.c_str());
   } else {
     Next();
   }
 }
 
 // "POPUP" [string] options
-void MenuParser::ReadPopup(ResourceRecord& record, MenuFault& fault) noexcept {
+void MenuParser::ReadPopup(ResourceRecord& record, Failure& failure) noexcept {
   ParseOptionalString(text_, position_, record.text);
   UnescapeInPlace(record.text);
-  record.style = ReadMenuOptions(text_, position_, fault) | kMenuPopup;
+  record.style = ReadMenuOptions(text_, position_, failure) | kMenuPopup;
 }
 
 // "MENUITEM" ("SEPARATOR" | string "," identifier options). Any token passes for an identifier.
-void MenuParser::ReadItem(ResourceRecord& record, MenuFault& fault) noexcept {
+void MenuParser::ReadItem(ResourceRecord& record, Failure& failure) noexcept {
   Next();
   if (TokenIs("SEPARATOR")) {
     record.style = kMenuSeparator;
     return;
   }
-  if (*token_.c_str() != '"') return fault.Set(RTX_MENU_SYNTAX, kMenuStringExpected);
+  if (*token_.c_str() != '"') return failure.Set(RTX_MENU_SYNTAX, kMenuStringExpected);
   Token decoded;
   token_.Assign(StringBody(token_.view()));
   UnescapeText(token_.c_str(), decoded);
   record.text.Assign(decoded.view());
   Next();
-  if (!TokenIs(",")) return fault.Set(RTX_MENU_SYNTAX, kMenuCommaExpected);
+  if (!TokenIs(",")) return failure.Set(RTX_MENU_SYNTAX, kMenuCommaExpected);
   ScanToken(text_, position_, record.name);
-  record.style = ReadMenuOptions(text_, position_, fault);
+  record.style = ReadMenuOptions(text_, position_, failure);
 }
 
 }  // namespace

@@ -35,6 +35,7 @@ if [ $win32 -eq 1 ]; then
   build_preset win32
   . scripts/wine.sh
   run core32 wine_run null build/win32/bin/core_tests.exe
+  run parts wine_run null build/win32/bin/parts_tests.exe
   run win32 wine_run null build/win32/bin/win_tests.exe
   run screen wine_run x11 build/win32/bin/screen_tests.exe
 fi

@@ -36,7 +36,7 @@ struct Built {
 template <typename Build>
 Built BuildWith(Build build) {
   AcceleratorTable keys{};
-  MenuFault fault;
+  Failure fault;
   fault.Set(99, "soil");
   host::MenuHandle* menu = build(keys, fault);
   const Built built{test::DumpMenu(menu), test::DumpAccelerators(keys), std::string(fault.message.view()),
@@ -47,7 +47,7 @@ Built BuildWith(Build build) {
 }
 
 Built BuildText(const std::string& text) {
-  return BuildWith([&text](AcceleratorTable& keys, MenuFault& fault) {
+  return BuildWith([&text](AcceleratorTable& keys, Failure& fault) {
     return BuildMenu(text.c_str(), Symbols(), keys, fault);
   });
 }
@@ -60,7 +60,7 @@ class MenuBuilderTest : public ::testing::Test {
   }
 
   static Built BuildFile(const char* file, const char* name) {
-    const Built built = BuildWith([file, name](AcceleratorTable& keys, MenuFault& fault) {
+    const Built built = BuildWith([file, name](AcceleratorTable& keys, Failure& fault) {
       keys[0] = keys[99] = {1, 2, 3};
       return BuildMenuFromFile(file, name, Symbols(), keys, fault);
     });

@@ -205,7 +205,7 @@ TEST(ParseMenu, TakesNoMemory) {
 }
 
 TEST(ReadMenuOptions, ReadsNothingOnceAFailureIsSet) {
-  MenuFault fault;
+  Failure fault;
   fault.Set(5, "first");
   std::int32_t position = 0;
   EXPECT_EQ(ReadMenuOptions(",GRAYED", position, fault), 0u);
@@ -215,7 +215,7 @@ TEST(ReadMenuOptions, ReadsNothingOnceAFailureIsSet) {
 }
 
 TEST(ReadMenuOptions, StopsAtAnUnknownWord) {
-  MenuFault fault;
+  Failure fault;
   std::int32_t position = 0;
   EXPECT_EQ(ReadMenuOptions(", GRAYED , other , CHECKED", position, fault), kMenuGrayed);
   EXPECT_EQ(fault.message.view(), "Unknown menu option: other");
@@ -224,7 +224,7 @@ TEST(ReadMenuOptions, StopsAtAnUnknownWord) {
 }
 
 TEST(ReadMenuOptions, StopsWhereNoCommaStands) {
-  MenuFault fault;
+  Failure fault;
   std::int32_t position = 0;
   EXPECT_EQ(ReadMenuOptions("GRAYED", position, fault), 0u);
   EXPECT_EQ(position, 0);

@@ -40,7 +40,7 @@ std::string ReportSymbols(std::vector<rc::SymbolRecord>& symbols) {
 
 std::string ReportBuiltMenu(const char* name, const rc::SymbolIndex& symbols) {
   rc::AcceleratorTable keys;
-  rc::MenuFault fault;
+  rc::Failure fault;
   host::MenuHandle* menu = rc::BuildMenuFromFile(kPath, name, symbols, keys, fault);
   if (menu == nullptr)
     return "  built: ! " + std::to_string(fault.code) + " " + Visible(fault.message.view()) + "\n";
