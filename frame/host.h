@@ -56,8 +56,8 @@ class Block {
   std::size_t count_ = 0;
 };
 
-// Whether a program's memory may be read or written. The range may be null or wild, and is not changed. An empty
-// range is both.
+// Whether a program's memory may be read or written. The range may be null or wild, and is not changed. An
+// empty range is both.
 bool IsReadable(const void* memory, std::size_t bytes) noexcept;
 bool IsWritable(void* memory, std::size_t bytes) noexcept;
 
