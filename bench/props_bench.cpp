@@ -29,6 +29,13 @@ std::string BigForm(int definitions) {
   return text + "END\n\n";
 }
 
+// The full path of a file in the current directory.
+std::string FullPath(const std::string& name) {
+  host::Path folder;
+  rc::CurrentDirectoryText(folder);
+  return folder.c_str() + name;
+}
+
 // A file of forms for the time of a measurement.
 class Script {
  public:
@@ -38,8 +45,7 @@ class Script {
   Script& operator=(const Script&) = delete;
   ~Script() { std::remove(localName_.c_str()); }
 
-  // As the library takes it.
-  std::string path() const { return "c:\\" + localName_; }
+  std::string path() const { return FullPath(localName_); }
   double size() const { return size_; }
 
  private:
@@ -122,18 +128,20 @@ char* CopyLines(const std::vector<char>& in, char* out) {
 
 // A rewrite in the plainest way: the file read whole, its lines copied in memory, one block written.
 void RewriteInOneBlock(const std::string& path) {
-  constexpr const char* kTemporary = "c:\\plain.tmp";
+  const std::string temporary = FullPath("plain.tmp");
   static std::vector<char> in;
   static std::vector<char> out;
   std::uint64_t size = 0;
-  if (!host::QueryFileSize(path.c_str(), size) || !host::RenameFile(path.c_str(), kTemporary)) std::abort();
+  if (!host::QueryFileSize(path.c_str(), size) || !host::RenameFile(path.c_str(), temporary.c_str()))
+    std::abort();
   in.resize(size);
   out.resize(size * 2);
-  if (host::File(kTemporary, host::OpenMode::kRead).Read(in.data(), static_cast<int>(size)) < 0) std::abort();
+  if (host::File(temporary.c_str(), host::OpenMode::kRead).Read(in.data(), static_cast<int>(size)) < 0)
+    std::abort();
   const char* end = CopyLines(in, out.data());
   host::File file(path.c_str(), host::OpenMode::kReplace);
   if (!file.Write(out.data(), static_cast<int>(end - out.data())) || !file.Close()) std::abort();
-  if (!host::RemoveFile(kTemporary)) std::abort();
+  if (!host::RemoveFile(temporary.c_str())) std::abort();
 }
 
 // The passes over the file that writing the form is made of, each by itself.

@@ -200,7 +200,7 @@ void MenuOptionWords(std::uint32_t style, rc::TextBuffer words) noexcept {
 void RecordsToText(rc::RecordTable& records, rc::TextBuffer text) noexcept {
   rc::TextWriter writer(text);
   for (int i = 0; i < rc::kRecordCount && !records[i]->keyword.IsEmpty(); ++i) {
-    const bool isLast = i + 1 == rc::kRecordCount;
+    const bool isLast = i + 1 == rc::kRecordCount || records[i + 1]->keyword.IsEmpty();
     WriteRecord(*records[i], isLast ? 0 : records[i + 1]->x, writer);
   }
   Pieces(0, writer).Put("END\n");

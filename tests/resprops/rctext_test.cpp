@@ -300,6 +300,14 @@ TEST_F(RecordsToTextTest, ClosesEachLevelThatAnEntryOpensAlsoWhereLevelsAreLeftO
             "    MENUITEM \"leaf without a name\",\nEND\n");
 }
 
+TEST_F(RecordsToTextTest, ClosesAllLevelsOfAMenuAlsoAheadOfARecordThatIsNotWritten) {
+  AddEntry(0, "M", "");
+  AddEntry(1, "", "a");
+  AddEntry(2, "X", "x");
+  Add("", "").x = 9;
+  EXPECT_EQ(Text(), "M MENU\nBEGIN\n    POPUP \"a\"\n    BEGIN\n        MENUITEM \"x\",X\n    END\nEND\n");
+}
+
 TEST_F(RecordsToTextTest, IndentsAMenuByNoMoreThan40AndNoLessThanNothing) {
   AddEntry(0, "M", "");
   for (int level = 1; level <= 12; ++level) AddEntry(level, "N", "t");

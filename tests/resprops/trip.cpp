@@ -199,7 +199,7 @@ bool HasSoundLevels(rc::RecordArray& menu) {
   const int count = CountRecords(menu);
   for (int i = 0; i < count; ++i) {
     const std::int32_t next = i + 1 < count ? menu[i + 1].x : 0;
-    if ((i > 0 && menu[i].x < 1) || next > menu[i].x + 1) return false;
+    if ((i > 0 && menu[i].x < 1) || (next > menu[i].x && next - 1 > menu[i].x)) return false;
     if (i > 0 && next <= menu[i].x && menu[i].name.IsEmpty() && !menu[i].text.IsEmpty()) return false;
   }
   return true;
