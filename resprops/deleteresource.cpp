@@ -52,7 +52,7 @@ class Deletion {
 
  private:
   // Stands in the list for: bring the #define lines up to date.
-  static constexpr std::string_view kSymbolsMark = "";
+  static constexpr std::string_view kSymbolsMark{};
 
   bool HasMemory() const noexcept { return records_ && text_ && symbols_; }
   void DeleteOne(const char* name, DeleteMode mode) noexcept;

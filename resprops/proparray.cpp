@@ -9,6 +9,7 @@ namespace brelt::resprops {
 namespace {
 
 bool ArePointersReadable(const PropertyArray& array) noexcept {
+  if (array.count < 0) return false;
   const auto bytes = std::uint64_t{static_cast<std::uint32_t>(array.count)} * sizeof(char*);
   return array.HasRows() && bytes <= SIZE_MAX &&
          host::IsReadable(array.rows, static_cast<std::size_t>(bytes));
@@ -27,7 +28,7 @@ bool IsValidRow(const char* row, int size) noexcept {
 }  // namespace
 
 bool PropertyArray::IsWritable() const noexcept {
-  if (count < 0 || size < 1 || !ArePointersReadable(*this)) return false;
+  if (size < 1 || !ArePointersReadable(*this)) return false;
   return std::all_of(rows, rows + count,
                      [this](char* row) { return host::IsWritable(row, static_cast<std::size_t>(size)); });
 }

@@ -13,9 +13,11 @@ Found Find(const char* path, const char* name, rc::LineRange& lines) noexcept {
   return lines.first != 0 ? Found::kYes : Found::kNo;
 }
 
-// Makes the line "newName type rest" of a header; false where the header has another name.
-bool RenameHeader(const char* header, const char* oldName, const char* newName,
-                  rc::TextBuffer renamed) noexcept {
+// Makes the line "newName type rest" of the header that the rewrite has come to; false where the header has
+// another name.
+bool RenameHeader(const Rewrite& rewrite, const char* oldName, const char* newName,
+                  rc::TextWriter& renamed) noexcept {
+  const char* header = rewrite.line();
   std::int32_t position = 0;
   rc::Name name;
   rc::SkipSpace(header, position);
@@ -26,12 +28,11 @@ bool RenameHeader(const char* header, const char* oldName, const char* newName,
   rc::ScanToken(header, position, type);
   std::int32_t typeEnd = typeStart;
   while (rc::IsWordChar(header[typeEnd])) ++typeEnd;
-  rc::TextWriter(renamed)
-      .Append(newName)
+  renamed.Append(newName)
       .Append(' ')
       .Append({header + typeStart, static_cast<std::size_t>(typeEnd - typeStart)})
       .Append(' ')
-      .Append(header + position);
+      .Append({header + position, static_cast<std::size_t>(rewrite.length() - position)});
   return true;
 }
 
@@ -99,10 +100,11 @@ bool Renaming::CheckUse() noexcept {
 void Renaming::Rename() noexcept {
   Rewrite rewrite(path_.c_str());
   while (rewrite.Next()) {
-    rc::FixedText<rc::kLineLength + rc::kNameLength + 2> renamed;
+    rc::FixedText<rc::kLineLength + rc::kNameLength + 2> buffer;
+    rc::TextWriter renamed(buffer);
     if (rewrite.number() != lines_.first) {
       rewrite.Keep();
-    } else if (RenameHeader(rewrite.line(), oldName_.c_str(), newName_.c_str(), renamed)) {
+    } else if (RenameHeader(rewrite, oldName_.c_str(), newName_.c_str(), renamed)) {
       rewrite.KeepAs(renamed.view());
     } else {
       // String tables and languages are found under names that don't stand in front.

@@ -25,6 +25,7 @@ class Reading {
 
  private:
   void Locate() noexcept;
+  void ReportFile() noexcept;
   void Parse() noexcept;
   void CheckClass() noexcept;
 
@@ -37,20 +38,25 @@ class Reading {
 };
 
 void Reading::Locate() noexcept {
-  rc::LineRange lines;
   if (!records_ || !text_) {
     error_.Take("Insufficient memory to read properties for window: ", resource_);
   } else if (!rc::IsFullPathName(path_.c_str())) {
     error_.Take(rc::BadFileNameMessage(rcFile_).view());
   } else if (rc::FileSizeOf(path_.c_str()) < 0) {
-    error_.Format("Resource file <%-.*s> is invalid or missing.", rc::kShownPathLength, path_.c_str());
+    ReportFile();
   } else {
-    // The name that stands for a listing has no lines of its own.
+    rc::LineRange lines;
     rc::LocateResource(path_.c_str(), resource_, "DIALOG\nMENU\n", {text_.get(), rc::kResourceTextSize},
                        &lines);
+    if (lines.broken) return ReportFile();
+    // The name that stands for a listing has no lines of its own.
     if (lines.first != 0) return;
     error_.Take("Resource file does not contain DIALOG or MENU resource named: ", resource_);
   }
+}
+
+void Reading::ReportFile() noexcept {
+  error_.Format("Resource file <%-.*s> is invalid or missing.", rc::kShownPathLength, path_.c_str());
 }
 
 // A resource found under the tail of a keyword is neither of the two, and has no rows.

@@ -42,8 +42,10 @@ class Rewrite {
   void Restart() noexcept;
 
   // The line Next has gone to: its number from 1, and its text without the line end, terminated.
+  // A zero byte in the file ends the text early, but doesn't shorten the length.
   std::int32_t number() const noexcept { return number_; }
   const char* line() const noexcept { return line_.text; }
+  int length() const noexcept { return line_.length; }
   bool IsEmptyLine() const noexcept { return line_.length == 0; }
 
   // Takes the line over into the new file, as it is or as another text.

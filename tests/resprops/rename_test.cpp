@@ -32,6 +32,12 @@ TEST(ResourceRename, ChangesTheFirstLineAndNothingElse) {
   }
 }
 
+TEST(ResourceRename, KeepsWhatStandsBehindAZeroByte) {
+  using std::string_literals::operator""s;
+  EXPECT_EQ(AfterRename("A ICON a.ico\0 more\nB ICON b\n"s, "A", "NEW"),
+            Crlf("NEW ICON a.ico\0 more\nB ICON b\n"s));
+}
+
 TEST(ResourceRename, TellsWhyItCannotInAFixedOrder) {
   struct Case {
     const char* from;

@@ -136,6 +136,7 @@ TEST_F(ValidateTest, RefusesWhatCannotBeRead) {
   EXPECT_FALSE(ValidatePropertyArray({rows_.pointers(), 256, 0}));
   EXPECT_FALSE(ValidatePropertyArray({rows_.pointers(), 256, -20}));
   EXPECT_FALSE(ValidatePropertyArray({nullptr, 256, 20}));
+  EXPECT_FALSE(ValidatePropertyArray({rows_.pointers(), -1, 20}));
   test::DeclareUnreadable(rows_.row(200) + 19, 1);
   EXPECT_FALSE(IsValid());
   test::ResetHost();
