@@ -25,8 +25,15 @@ std::FILE* AsFile(FileHandle* file) { return reinterpret_cast<std::FILE*>(file);
 void* AllocateZeroed(std::size_t bytes) noexcept { return std::calloc(1, bytes); }
 void Release(void* block) noexcept { std::free(block); }
 
+// Callers of benchmarks hand over memory of their own.
+bool IsReadable(const void*, std::size_t) noexcept { return true; }
+bool IsWritable(void*, std::size_t) noexcept { return true; }
+
 FileHandle* OpenFile(const char* path, OpenMode mode) noexcept {
-  const char* how = mode == OpenMode::kRead ? "rb" : mode == OpenMode::kReplace ? "wb" : "ab";
+  const char* how = mode == OpenMode::kRead      ? "rb"
+                    : mode == OpenMode::kReplace ? "wb"
+                    : mode == OpenMode::kCreate  ? "wbx"
+                                                 : "ab";
   std::FILE* file = std::fopen(LocalPath(path).c_str(), how);
   // The core reads and writes in blocks of its own.
   if (file != nullptr) std::setvbuf(file, nullptr, _IONBF, 0);
@@ -60,6 +67,10 @@ bool RemoveFile(const char* path) noexcept { return std::remove(LocalPath(path).
 
 bool RenameFile(const char* from, const char* to) noexcept {
   return std::rename(LocalPath(from).c_str(), LocalPath(to).c_str()) == 0;
+}
+
+bool CutFile(const char* path, std::uint64_t size) noexcept {
+  return truncate(LocalPath(path).c_str(), static_cast<off_t>(size)) == 0;
 }
 
 bool CanRewriteFile(const char* path) noexcept { return access(LocalPath(path).c_str(), W_OK) == 0; }

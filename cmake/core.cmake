@@ -23,6 +23,26 @@ add_library(brelt_core STATIC
   rc/text.cpp
   rc/textkit.cpp
   rc/wordvalue.cpp
+  resprops/classkeyword.cpp
+  resprops/deleteresource.cpp
+  resprops/errortext.cpp
+  resprops/escape.cpp
+  resprops/proparray.cpp
+  resprops/properties.cpp
+  resprops/rcfile.cpp
+  resprops/rctext.cpp
+  resprops/readrows.cpp
+  resprops/renameresource.cpp
+  resprops/replaceresource.cpp
+  resprops/resourceinfo.cpp
+  resprops/resourceread.cpp
+  resprops/resourcewrite.cpp
+  resprops/rewrite.cpp
+  resprops/rewritesymbols.cpp
+  resprops/schema.cpp
+  resprops/stylewordsof.cpp
+  resprops/textfile.cpp
+  resprops/writerows.cpp
 )
 target_include_directories(brelt_core PUBLIC ${PROJECT_SOURCE_DIR})
 target_link_libraries(brelt_core PRIVATE brelt_library_options)

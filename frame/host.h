@@ -56,12 +56,18 @@ class Block {
   std::size_t count_ = 0;
 };
 
+// Whether a program's memory may be read or written. The range may be null or wild, and is not changed. An
+// empty range is both.
+bool IsReadable(const void* memory, std::size_t bytes) noexcept;
+bool IsWritable(void* memory, std::size_t bytes) noexcept;
+
 // ---- Files ----
 
 enum class OpenMode {
   kRead,     // existing files only
   kReplace,  // made, or emptied if it exists
   kAppend,   // made if need be; writes go to the end
+  kCreate,   // new files only: fails where anything of that name exists
 };
 
 // An open file. Reads and writes are of raw bytes; the readers and writers of text do the translation.
@@ -98,7 +104,10 @@ class File {
 // The size of an existing file; false where there is none and for a directory.
 bool QueryFileSize(const char* path, std::uint64_t& size) noexcept;
 bool RemoveFile(const char* path) noexcept;
+// Fails where anything of the new name exists.
 bool RenameFile(const char* from, const char* to) noexcept;
+// Makes an existing file shorter.
+bool CutFile(const char* path, std::uint64_t size) noexcept;
 // Whether an existing file can be opened for writing while nobody else has it open.
 bool CanRewriteFile(const char* path) noexcept;
 

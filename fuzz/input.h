@@ -19,6 +19,14 @@ class Input {
     rest_.erase(0, end == std::string::npos ? end : end + 1);
     return line;
   }
+  // What stands ahead of the first line that is a mark, or all of it; the mark goes too.
+  std::string TakePart(const std::string& mark) {
+    const std::size_t end = ("\n" + rest_).find("\n" + mark + "\n");
+    std::string part = rest_.substr(0, end);
+    rest_.erase(0, end == std::string::npos ? end : end + mark.size() + 1);
+    return part;
+  }
+  bool IsEmpty() const { return rest_.empty(); }
   const std::string& rest() const { return rest_; }
 
  private:

@@ -14,6 +14,8 @@ class ResourceDirectory {
 
   // False when memory couldn't be had. A file that can't be read is a complete directory of nothing.
   bool IsComplete() const noexcept { return complete_; }
+  // Whether the file couldn't be read, by the walk or by the last Locate.
+  bool HasFailed() const noexcept { return !reader_.IsOpen() || reader_.HasFailed(); }
   // As LocateResource for a name: of resources with one name only the first is seen.
   int Locate(std::string_view name, const char* typeList, TextBuffer out) noexcept;
 

@@ -58,6 +58,12 @@ FileMessage MissingFileMessage(const char* name) noexcept {
   return message;
 }
 
+FileMessage UnreadableFileMessage(const char* name) noexcept {
+  FileMessage message;
+  message.Format("The file <%-.*s> could not be opened", kShownPathLength, name);
+  return message;
+}
+
 std::int32_t FileSizeOf(const char* name, FileSizeWords* sizeOut) noexcept {
   constexpr std::uint64_t kMost = std::numeric_limits<std::int32_t>::max();
   std::uint64_t size = 0;

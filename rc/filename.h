@@ -46,9 +46,10 @@ inline constexpr int kShownPathLength = 260;
 // Room for a message about a file name.
 using FileMessage = FixedText<400>;
 
-// The two messages about a file that a caller can't use.
+// The messages about a file that a caller can't use.
 FileMessage BadFileNameMessage(const char* name) noexcept;
 FileMessage MissingFileMessage(const char* name) noexcept;
+FileMessage UnreadableFileMessage(const char* name) noexcept;
 
 // The low and the high 32 bits of a file's size.
 struct FileSizeWords {

@@ -104,9 +104,12 @@ int LocateResource(const char* fileName, const char* resourceName, const char* t
                    LineRange* lines) noexcept {
   TextWriter writer(out);
   LineRange found;
-  if (lines != nullptr) *lines = found;
-  if (IsEmpty(resourceName) || typeList == nullptr) return 0;
-  if (!IsAcceptedFileName(fileName) || FileSizeOf(fileName) < 1) return 0;
+  if (lines == nullptr) lines = &found;
+  *lines = {};
+  if (IsEmpty(resourceName) || typeList == nullptr || !IsAcceptedFileName(fileName)) return 0;
+  const std::int32_t size = FileSizeOf(fileName);
+  lines->broken = size != 0;
+  if (size < 1) return 0;
   LineReader reader(fileName);
   if (!reader.IsOpen()) return 0;
 
@@ -129,13 +132,13 @@ int LocateResource(const char* fileName, const char* resourceName, const char* t
     if (types.Holds(walk.keyword())) {
       StripLineComment(line.text);
       writer.Append(line.text);
-      found = {found.first == 0 ? number : found.first, number};
+      *lines = {lines->first == 0 ? number : lines->first, number};
     }
     // The name alone ends the search: a second resource of one name is never reached.
     if (walk.IsLastLine()) break;
   }
+  lines->broken = reader.HasFailed();
   if (out.IsWritable()) BlankBlockComments(out.data());
-  if (lines != nullptr) *lines = found;
   return writer.length();
 }
 
@@ -147,16 +150,20 @@ bool ResourceTypeIs(const char* text, const char* keyword) noexcept {
   return EqualIgnoreCase(token.view(), View(keyword));
 }
 
-// icon = name "ICON" {load option} (string | word ["." word])
 int ResourceIconFile(const char* fileName, const char* iconName, host::Path& out) noexcept {
   out.Clear();
   FixedText<kShortTextSize - 1> text;
   if (IsEmpty(iconName) || LocateResource(fileName, iconName, "ICON", text) == 0) return 0;
+  return IconFileOf(text.c_str(), out);
+}
+
+// icon = name "ICON" {load option} (string | word ["." word])
+int IconFileOf(const char* text, host::Path& out) noexcept {
   std::int32_t position = 0;
-  SkipSpace(text.c_str(), position);
+  SkipSpace(text, position);
   Token token;
-  for (int i = 0; i < 3; ++i) ScanToken(text.c_str(), position, token);
-  while (IsLoadOption(token.view())) ScanToken(text.c_str(), position, token);
+  for (int i = 0; i < 3; ++i) ScanToken(text, position, token);
+  while (IsLoadOption(token.view())) ScanToken(text, position, token);
   Token file;
   if (*token.c_str() == '"') {
     // Only doubled backslashes are decoded, so that names with single ones survive.
@@ -166,7 +173,7 @@ int ResourceIconFile(const char* fileName, const char* iconName, host::Path& out
     // The scanner sees my.ico as a word, a point and a word.
     file = token;
     for (int i = 0; i < 2; ++i) {
-      ScanToken(text.c_str(), position, token);
+      ScanToken(text, position, token);
       file.Append(token.view());
     }
   }

@@ -64,6 +64,7 @@ class TypeList {
 struct LineRange {
   std::int32_t first = 0;  // from 1; 0 when nothing was found
   std::int32_t last = 0;
+  bool broken = false;  // the file couldn't be read to where the search ends: what was found is not all
 };
 
 // Finds the resource of a name (compared without regard to case) whose keyword is in typeList, and stores its
@@ -80,6 +81,9 @@ bool ResourceTypeIs(const char* text, const char* keyword) noexcept;
 // The file name that an ICON resource holds, at most 259 characters; empty when there is none. The result is
 // its length.
 int ResourceIconFile(const char* fileName, const char* iconName, host::Path& out) noexcept;
+
+// The same from the text of the resource as LocateResource gives it.
+int IconFileOf(const char* text, host::Path& out) noexcept;
 
 // Removes a comment from // to the end of the line, keeping the line end. Marks between quotation marks don't
 // count; each line starts outside them.

@@ -97,8 +97,11 @@ void ReadDefinition(const char* line, GrowingTable& table) noexcept {
 
 // Finds the resource that names the header. False when the file has none.
 bool LocateInclude(const char* fileName, TextBuffer text, LineRange& lines) noexcept {
-  return LocateResource(fileName, "1", "TEXTINCLUDE", text, &lines) > 0 ||
-         LocateResource(fileName, "DLGINCLUDE", "RCDATA", text, &lines) > 0;
+  if (LocateResource(fileName, "1", "TEXTINCLUDE", text, &lines) > 0) return true;
+  const bool broken = lines.broken;
+  if (LocateResource(fileName, "DLGINCLUDE", "RCDATA", text, &lines) > 0) return true;
+  lines.broken = lines.broken || broken;
+  return false;
 }
 
 // The first string of an include resource, decoded; its usual \0 at the end becomes the end of the name.
@@ -141,12 +144,10 @@ void ReadSymbolFile(const char* path, GrowingTable& table, SymbolReport& report)
     return;
   }
   LineReader reader(path);
-  if (!reader.IsOpen()) {
-    report.message.Format("The file <%-.*s> could not be opened", kShownPathLength, path);
-    return;
-  }
   Line line;
-  while (reader.Next(line)) ReadDefinition(line.text, table);
+  while (reader.IsOpen() && reader.Next(line)) ReadDefinition(line.text, table);
+  // Half of the symbols would be worse than none: whoever rewrites the file would drop the others.
+  if (!reader.IsOpen() || reader.HasFailed()) report.message.Assign(UnreadableFileMessage(path).view());
 }
 
 // Adds the words of the records' names; a word that the file doesn't define has the value 0.
@@ -159,32 +160,42 @@ void AddNames(RecordTable& records, bool isMenu, const SymbolIndex& defined, Gro
 }
 
 // Fills in the uses of rows that a file defines; a word that it doesn't define keeps 0.
-bool FillUses(const char* fileName, std::span<SymbolRecord> defined, const SymbolIndex& index,
-              std::span<SymbolRecord> rows) noexcept {
-  if (!CountSymbolUses(fileName, defined)) return false;
+Reading FillUses(const char* fileName, std::span<SymbolRecord> defined, const SymbolIndex& index,
+                 std::span<SymbolRecord> rows) noexcept {
+  const Reading counted = CountSymbolUses(fileName, defined);
   for (SymbolRecord& row : rows) {
     const int found = index.Find(row.Name.view());
     if (found != SymbolIndex::kNone) row.Uses = index[found].Uses;
   }
-  return true;
+  return counted;
 }
 
 // Takes the words of one DIALOG and its MENU. A resource that is missing or doesn't parse simply has none.
-bool LoadDialogSymbols(const char* fileName, const char* dialogName, const SymbolIndex& defined,
-                       GrowingTable& table) noexcept {
+Reading LoadDialogSymbols(const char* fileName, const char* dialogName, const SymbolIndex& defined,
+                          GrowingTable& table) noexcept {
   RecordArray records;
   const host::Block<char> text(kResourceTextSize);
-  if (!records || !text) return false;
+  if (!records || !text) return Reading::kNoMemory;
   const TextBuffer buffer(text.get(), kResourceTextSize);
   FixedText<1023> ignored;
-  if (LocateResource(fileName, dialogName, "DIALOG", buffer) == 0) return true;
+  LineRange lines;
+  LocateResource(fileName, dialogName, "DIALOG", buffer, &lines);
+  if (lines.broken) return Reading::kUnreadable;
   ParseDialog(text.get(), records.table(), ignored);
   AddNames(records.table(), false, defined, table);
   const Name menuName = records[0].menuName;
-  if (menuName.IsEmpty() || LocateResource(fileName, menuName.c_str(), "MENU", buffer) == 0) return true;
+  if (menuName.IsEmpty()) return Reading::kDone;
+  LocateResource(fileName, menuName.c_str(), "MENU", buffer, &lines);
+  if (lines.broken) return Reading::kUnreadable;
   ParseMenu(text.get(), records.table(), ignored);
   AddNames(records.table(), true, defined, table);
-  return true;
+  return Reading::kDone;
+}
+
+// The message for a reading that isn't done.
+void Report(Reading reading, const char* fileName, const char* noMemory, SymbolReport& report) noexcept {
+  if (reading == Reading::kNoMemory) report.message.Assign(noMemory);
+  if (reading == Reading::kUnreadable) report.message.Assign(UnreadableFileMessage(fileName).view());
 }
 
 bool HasEqualValues(std::span<const SymbolRecord> rows) noexcept {
@@ -215,7 +226,11 @@ int LoadSymbols(const char* fileName, const char* resourceName, std::int32_t fla
     return 0;
   }
   GrowingTable defined({working.get(), working.count()});
-  ReadSymbolFile(symbolFile.c_str(), defined, report);
+  if (report.includeLines.broken && FileSizeOf(fileName) > 0) {
+    Report(Reading::kUnreadable, fileName, "", report);
+  } else {
+    ReadSymbolFile(symbolFile.c_str(), defined, report);
+  }
   if (!report.message.IsEmpty()) return 0;
 
   int count = 0;
@@ -224,16 +239,16 @@ int LoadSymbols(const char* fileName, const char* resourceName, std::int32_t fla
     std::copy_n(working.get(), count, symbols.begin());
   } else {
     GrowingTable table(symbols);
-    if (!LoadDialogSymbols(fileName, resourceName, defined.index(), table)) {
-      report.message.Assign("Not enough memory for loading the dialog symbols");
-      return 0;
-    }
+    Report(LoadDialogSymbols(fileName, resourceName, defined.index(), table), fileName,
+           "Not enough memory for loading the dialog symbols", report);
     count = table.count();
   }
   const std::span<SymbolRecord> rows = symbols.first(static_cast<std::size_t>(count));
-  if (count > 0 && (flags & kCountUses) != 0 &&
-      !FillUses(fileName, {working.get(), working.count()}, defined.index(), rows)) {
-    report.message.Assign("Not enough memory for sorting the symbols");
+  if (count > 0 && (flags & kCountUses) != 0 && report.message.IsEmpty()) {
+    Report(FillUses(fileName, {working.get(), working.count()}, defined.index(), rows), fileName,
+           "Not enough memory for sorting the symbols", report);
+  }
+  if (!report.message.IsEmpty()) {
     ClearRows(symbols);
     return 0;
   }

@@ -73,9 +73,11 @@ int LoadSymbols(const char* fileName, const char* resourceName, std::int32_t fla
 // Sorts the first count rows by name ignoring case, or by value and then by name, as flags tell.
 void SortSymbols(std::span<SymbolRecord> symbols, int count, std::int32_t flags) noexcept;
 
+enum class Reading { kDone, kNoMemory, kUnreadable };
+
 // Adds to Uses of each row how often the DIALOGs of a file and their MENUs name it; a menu counts once for
-// each dialog that has it. False when memory couldn't be had.
-bool CountSymbolUses(const char* fileName, std::span<SymbolRecord> symbols) noexcept;
+// each dialog that has it. Unless it is done the numbers are good for nothing.
+Reading CountSymbolUses(const char* fileName, std::span<SymbolRecord> symbols) noexcept;
 
 // The number of a word for the running program: from the file of #define lines beside it, <program>.rcx or
 // else <program>.rc. kNoValue when the word has none there, or there is no such file.

@@ -18,29 +18,35 @@ void CountNames(RecordTable& records, const SymbolIndex& index, std::span<Symbol
 
 }  // namespace
 
-bool CountSymbolUses(const char* fileName, std::span<SymbolRecord> symbols) noexcept {
+Reading CountSymbolUses(const char* fileName, std::span<SymbolRecord> symbols) noexcept {
   RecordArray records;
   const host::Block<char> list(kResourceTextSize);
   const host::Block<char> text(kResourceTextSize);
   ResourceDirectory directory(fileName);
-  if (!records || !list || !text || !directory.IsComplete()) return false;
+  if (!records || !list || !text || !directory.IsComplete()) return Reading::kNoMemory;
 
   const SymbolIndex index(symbols);
   const TextBuffer buffer(text.get(), kResourceTextSize);
   FixedText<1023> ignored;
-  LocateResource(fileName, "*", "DIALOG", {list.get(), kResourceTextSize});
+  LineRange listed;
+  LocateResource(fileName, "*", "DIALOG", {list.get(), kResourceTextSize}, &listed);
+  bool failed = listed.broken || directory.HasFailed();
+  const auto locate = [&](std::string_view name, const char* type) {
+    const bool found = directory.Locate(name, type, buffer) > 0;
+    failed = failed || directory.HasFailed();
+    return found;
+  };
   LineWalk walk(list.get());
   std::string_view line;
-  while (walk.Next(line)) {
-    const std::string_view name = line.substr(0, line.find(','));
-    if (directory.Locate(name, "DIALOG", buffer) == 0) continue;
+  while (!failed && walk.Next(line)) {
+    if (!locate(line.substr(0, line.find(',')), "DIALOG")) continue;
     if (!ParseDialog(text.get(), records.table(), ignored)) continue;
     CountNames(records.table(), index, symbols);
     const Name menuName = records[0].menuName;
-    if (menuName.IsEmpty() || directory.Locate(menuName.view(), "MENU", buffer) == 0) continue;
+    if (menuName.IsEmpty() || !locate(menuName.view(), "MENU")) continue;
     if (ParseMenu(text.get(), records.table(), ignored)) CountNames(records.table(), index, symbols);
   }
-  return true;
+  return failed ? Reading::kUnreadable : Reading::kDone;
 }
 
 }  // namespace brelt::rc

@@ -11,4 +11,4 @@ printf '%s, %s processors, %s\n' "$(sed -n 's/^model name[^:]*: //p' /proc/cpuin
 # One processor for all of it: moving between two costs more than some of the differences.
 pin=()
 command -v taskset >/dev/null && pin=(taskset -c "$(($(nproc) - 1))")
-(cd "$work" && "${pin[@]}" "$root/build/native/bin/parse_bench")
+(cd "$work" && "${pin[@]}" "$root/build/native/bin/parse_bench"; "${pin[@]}" "$root/build/native/bin/props_bench")

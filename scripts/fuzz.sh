@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Fuzzes the readers of RC text under sanitizers, each for an equal share of the time, two at once.
+# Fuzzes the readers and writers of RC text under sanitizers, each for an equal share of the time, two at once.
 #   scripts/fuzz.sh [SECONDS]     60 without an argument
 # Starts from fuzz/seeds and what earlier runs kept in build/fuzz/corpus. A finding is printed with the file that
 # shows it again, and the script fails.
@@ -9,7 +9,7 @@ seconds=${1:-60}
 scripts/setup.sh
 build_preset fuzz
 
-drivers=(scan locate symbols dialog menu)
+drivers=(scan locate symbols dialog menu props surgery)
 jobs=2
 share=$(((seconds * jobs + ${#drivers[@]} - 1) / ${#drivers[@]}))
 found=$root/build/fuzz/findings

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <cctype>
-#include <cstdlib>
 #include <string>
 
 #include "tests/support/golden.h"
@@ -11,16 +10,11 @@
 namespace brelt::rc {
 namespace {
 
-std::string CorpusFolder() {
-  const char* named = std::getenv("BRELT_CORPUS");
-  return named != nullptr && *named != '\0' ? named : test::ProjectPath("../shared/corpus");
-}
-
 class Corpus : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(Corpus, IsReadAsItsGoldenFileSays) {
-  const auto bytes = test::LoadBytes(CorpusFolder() + "/" + GetParam());
-  if (!bytes) GTEST_SKIP() << "no scripts of other people at " << CorpusFolder() << " (set BRELT_CORPUS)";
+  const auto bytes = test::LoadBytes(test::CorpusFolder() + "/" + GetParam());
+  if (!bytes) GTEST_SKIP() << "no scripts of other people at " << test::CorpusFolder() << " (set BRELT_CORPUS)";
   test::ExpectGolden(std::string("corpus/") + GetParam() + ".txt", test::ReportScript(*bytes));
 }
 

@@ -143,6 +143,24 @@ TEST_F(Located, TheFileMustBeAFullPathOrABareNameAndHoldSomething) {
   }
 }
 
+TEST_F(Located, TellsASearchThatFoundNothingFromOneThatCouldNotReadTheFile) {
+  test::WriteFile(kPath, kForms);
+  test::WriteFile("c:\\work\\empty.rc", "");
+  LineRange lines;
+  for (const char* whole : {kPath, "c:\\work\\empty.rc", "sub\\a.rc"}) {
+    LocateResource(whole, "NOWHERE", "DIALOG", {}, &lines);
+    EXPECT_FALSE(lines.broken) << whole;
+  }
+  LocateResource("c:\\work\\none.rc", "NOWHERE", "DIALOG", {}, &lines);
+  EXPECT_TRUE(lines.broken);
+  // Size, open and two reads; a failed close hurts nobody who only reads.
+  for (int n = 0; n < 5; ++n) {
+    test::FailFileOperation(n);
+    LocateResource(kPath, "NOWHERE", "DIALOG", {}, &lines);
+    EXPECT_EQ(lines.broken, n < 4) << n;
+  }
+}
+
 TEST_F(Located, FailingFileOperationsFindNothing) {
   test::WriteFile(kPath, kForms);
   for (int n = 0;; ++n) {

@@ -532,6 +532,25 @@ TEST_F(LoadSymbols_, EachFileOperationThatFailsLeavesNothingOpen) {
   }
 }
 
+// Whoever rewrites a file by its symbols would drop those that a failed read has left out.
+TEST_F(LoadSymbols_, NoReadThatFailsLeavesOutARowInSilence) {
+  test::WriteFile(kPath, std::string(kForms) + kTextInclude);
+  test::WriteFile("c:\\work\\a.h", "#define IDC_ONE 1\n#define IDC_TWO 2\n");
+  for (const char* dialog : {"", "FORM"}) {
+    test::FailFileOperation(-1);
+    const Loaded whole = Load(kPath, dialog, 49);
+    const int count = test::FileOperationCount();
+    for (int n = 0; n < count; ++n) {
+      SCOPED_TRACE(n);
+      test::FailFileOperation(n);
+      const Loaded loaded = Load(kPath, dialog, 49);
+      if (loaded.report.message.IsEmpty()) {
+        EXPECT_EQ(loaded.rows, whole.rows);
+      }
+    }
+  }
+}
+
 TEST(SortSymbols, LeavesRowsBehindTheCountAndShortTablesAlone) {
   SymbolRecord rows[4]{};
   const char* names[] = {"d", "c", "b", "a"};

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -39,6 +41,23 @@ std::string FirstDifference(const std::string& expected, const std::string& resu
 }  // namespace
 
 std::string ProjectPath(const std::string& path) { return Root() + "/" + path; }
+
+std::string CorpusFolder() {
+  const char* named = std::getenv("BRELT_CORPUS");
+  return named != nullptr && *named != '\0' ? named : ProjectPath("../shared/corpus");
+}
+
+std::vector<std::string> ListFolder(const std::string& folder, const std::vector<std::string>& extensions) {
+  std::vector<std::string> names;
+  std::error_code failed;
+  for (const auto& entry : std::filesystem::directory_iterator(folder, failed)) {
+    const std::string extension = entry.path().extension().string();
+    if (std::find(extensions.begin(), extensions.end(), extension) == extensions.end()) continue;
+    names.push_back(entry.path().filename().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
 
 std::optional<std::string> LoadBytes(const std::string& path) {
   std::ifstream file(path, std::ios::binary);

@@ -3,12 +3,20 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace brelt::test {
 
 // A file of this project by its path from the project's root. BRELT_ROOT names another root than the one that
 // the tests were built from.
 std::string ProjectPath(const std::string& path);
+
+// Where scripts that other people wrote are: the folder that BRELT_CORPUS names, or one beside the project.
+std::string CorpusFolder();
+
+// The names of the files in a folder of this machine that have one of the extensions, sorted; none when there
+// is no such folder.
+std::vector<std::string> ListFolder(const std::string& folder, const std::vector<std::string>& extensions);
 
 // The bytes of a file of this machine; nothing when it can't be read.
 std::optional<std::string> LoadBytes(const std::string& path);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <limits>
 #include <map>
 #include <memory>
@@ -30,6 +31,26 @@ struct Failure {
   }
 };
 
+struct Range {
+  const char* first;
+  const char* end;
+
+  bool Touches(const void* memory, std::size_t bytes) const {
+    const char* from = static_cast<const char*>(memory);
+    return std::less<>()(from, end) && std::less<>()(first, from + bytes);
+  }
+};
+
+bool AnyTouches(const std::vector<Range>& ranges, const void* memory, std::size_t bytes) {
+  return std::any_of(ranges.begin(), ranges.end(),
+                     [=](const Range& range) { return range.Touches(memory, bytes); });
+}
+
+Range MakeRange(const void* memory, std::size_t bytes) {
+  const char* first = static_cast<const char*>(memory);
+  return {first, first + bytes};
+}
+
 struct State {
   std::map<std::string, std::shared_ptr<Node>> files;
   std::string currentDirectory = "c:\\work";
@@ -37,6 +58,9 @@ struct State {
   std::map<const void*, std::string> modulePaths;
   Failure allocation;
   Failure file;
+  std::vector<std::string> renamedTexts;
+  std::vector<Range> unreadable;
+  std::vector<Range> unwritable;
   int mostBytes = std::numeric_limits<int>::max();
   int live = 0;
   int open = 0;
@@ -94,6 +118,15 @@ void PretendSize(const std::string& path, std::uint64_t size) { Find(path)->pret
 
 void LimitReads(int bytes) { Host().mostBytes = bytes; }
 
+const std::vector<std::string>& RenamedTexts() { return Host().renamedTexts; }
+
+void DeclareUnreadable(const void* memory, std::size_t bytes) {
+  Host().unreadable.push_back(MakeRange(memory, bytes));
+}
+void DeclareUnwritable(const void* memory, std::size_t bytes) {
+  Host().unwritable.push_back(MakeRange(memory, bytes));
+}
+
 void FailAllocation(int n) { Host().allocation = {n, false, 0}; }
 int AllocationCount() { return Host().allocation.count; }
 int LiveAllocations() { return Host().live; }
@@ -124,11 +157,20 @@ void Release(void* block) noexcept {
   std::free(block);
 }
 
+bool IsReadable(const void* memory, std::size_t bytes) noexcept {
+  return bytes == 0 || (memory != nullptr && !AnyTouches(Host().unreadable, memory, bytes));
+}
+
+bool IsWritable(void* memory, std::size_t bytes) noexcept {
+  return IsReadable(memory, bytes) && (bytes == 0 || !AnyTouches(Host().unwritable, memory, bytes));
+}
+
 FileHandle* OpenFile(const char* path, OpenMode mode) noexcept {
   if (Host().file.Strikes()) return nullptr;
   std::shared_ptr<Node> node = Find(path);
   if (node != nullptr && (node->isDirectory || (node->readOnly && mode != OpenMode::kRead))) return nullptr;
   if (node == nullptr && mode == OpenMode::kRead) return nullptr;
+  if (node != nullptr && mode == OpenMode::kCreate) return nullptr;
   if (node == nullptr || mode == OpenMode::kReplace) {
     WriteFile(path, "");
     node = Find(path);
@@ -192,8 +234,17 @@ bool RenameFile(const char* from, const char* to) noexcept {
   if (Host().file.Strikes()) return false;
   const auto node = Find(from);
   if (node == nullptr || Find(to) != nullptr) return false;
+  Host().renamedTexts.push_back(node->bytes);
   Host().files[Key(to)] = node;
   Host().files.erase(Key(from));
+  return true;
+}
+
+bool CutFile(const char* path, std::uint64_t size) noexcept {
+  if (Host().file.Strikes()) return false;
+  const auto node = Find(path);
+  if (node == nullptr || node->isDirectory || node->readOnly) return false;
+  node->bytes.resize(std::min(node->bytes.size(), static_cast<std::size_t>(size)));
   return true;
 }
 

@@ -29,6 +29,14 @@ void PretendSize(const std::string& path, std::uint64_t size);
 // The most bytes that a read of a file gives at once.
 void LimitReads(int bytes);
 
+// What each file held when it was renamed, in the order of the renames.
+const std::vector<std::string>& RenamedTexts();
+
+// Memory that host::IsReadable and host::IsWritable call bad, besides null. What can't be read can't be
+// written.
+void DeclareUnreadable(const void* memory, std::size_t bytes);
+void DeclareUnwritable(const void* memory, std::size_t bytes);
+
 // Failures. Operations are counted from the call on; the n-th (from 0) fails, and with stay all behind it.
 void FailAllocation(int n);
 int AllocationCount();

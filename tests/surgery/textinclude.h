@@ -1,0 +1,4 @@
+#define IDC_OK 1000
+#define IDC_TEXT 1001
+#define IDC_CLOSE 1002
+#define IDC_UNUSED 1003
