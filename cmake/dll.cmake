@@ -14,31 +14,57 @@ add_library(brelt_parts OBJECT
   frame/systemname.cpp
   frame/trace.cpp
   frame/winobject.cpp
+  editwin/edittext.cpp
   forms/activation.cpp
+  forms/alignitems.cpp
+  forms/appicon.cpp
+  forms/arrayprops.cpp
   forms/arrayvalues.cpp
   forms/boxproc.cpp
+  forms/captionprops.cpp
+  forms/clipboard.cpp
   forms/closing.cpp
+  forms/colourprops.cpp
+  forms/comboprops.cpp
   forms/commands.cpp
   forms/commandtext.cpp
+  forms/controlarrays.cpp
+  forms/controllist.cpp
   forms/controls.cpp
   forms/eventmessages.cpp
   forms/events.cpp
+  forms/fontprops.cpp
   forms/fonts.cpp
   forms/keys.cpp
+  forms/listcalls.cpp
   forms/listitems.cpp
+  forms/listprops.cpp
+  forms/lists.cpp
   forms/load.cpp
   forms/mainloop.cpp
+  forms/menuitems.cpp
+  forms/metricprops.cpp
   forms/modal.cpp
   forms/mouse.cpp
   forms/painting.cpp
+  forms/pictureprops.cpp
+  forms/positionprops.cpp
+  forms/rangeprops.cpp
   forms/recordmessages.cpp
   forms/scrolling.cpp
+  forms/sendcommand.cpp
   forms/show.cpp
   forms/sizing.cpp
+  forms/stateprops.cpp
+  forms/textcopy.cpp
+  forms/textprops.cpp
   forms/tooltip.cpp
   forms/topwindow.cpp
   forms/windowclass.cpp
   forms/windowprocs.cpp
+  graphics/canvas.cpp
+  graphics/trackrect.cpp
+  printing/printer.cpp
   rc/exports.cpp
 )
 target_compile_definitions(brelt_parts PUBLIC BRELT_BUILD NOMINMAX WIN32_LEAN_AND_MEAN)

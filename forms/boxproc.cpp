@@ -97,6 +97,8 @@ static_assert(HasEachNumberOnce(kBoxTable));
 }  // namespace
 }  // namespace brelt
 
+using namespace brelt;
+
 LRESULT __stdcall winobj_proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  return brelt::Dispatch(brelt::kBoxTable, {window, message, wParam, lParam});
+  return Dispatch(kBoxTable, {window, message, wParam, lParam});
 }

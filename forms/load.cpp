@@ -121,11 +121,13 @@ void LoadWindow(const LoadRequest& request, HWND* window, Failure& failure) noex
 
 }  // namespace brelt
 
+using namespace brelt;
+
 int32_t __stdcall Load(HMODULE instance, const char* name, const char* rcFile, EventFunction eventFunction,
                        HWND* window, const char* arrayValues, char* message, int32_t messageSize) {
-  brelt::TraceCall(__func__);
-  brelt::rc::Failure failure;
-  brelt::LoadWindow({instance, name, rcFile, eventFunction, arrayValues}, window, failure);
-  brelt::rc::TextBuffer(message, messageSize).Assign(failure.message.view());
+  TraceCall(__func__);
+  rc::Failure failure;
+  LoadWindow({instance, name, rcFile, eventFunction, arrayValues}, window, failure);
+  rc::TextBuffer(message, messageSize).Assign(failure.message.view());
   return failure.code;
 }

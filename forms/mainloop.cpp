@@ -91,28 +91,30 @@ void RunModalLoop(HWND window) noexcept {
 
 }  // namespace brelt
 
+using namespace brelt;
+
 BOOL __stdcall Enum_AppWindowsExist(HWND window, LPARAM context) {
-  auto* search = reinterpret_cast<brelt::RemainSearch*>(context);
+  auto* search = reinterpret_cast<RemainSearch*>(context);
   if (search == nullptr) return FALSE;
   search->found = !search->exclude.Holds(window);
   return !search->found;
 }
 
 int32_t __stdcall MainLoop(HMODULE, HWND mainWindow, HWND extraWindow, EventFunction startFunction) {
-  brelt::TraceCall(__func__);
-  brelt::ExcludeTable exclude;
+  TraceCall(__func__);
+  ExcludeTable exclude;
   if (extraWindow != mainWindow) exclude.Add(extraWindow);
   if (IsWindow(mainWindow)) {
-    brelt::ShowInPlace(mainWindow);
+    ShowInPlace(mainWindow);
   } else if (startFunction != nullptr) {
     startFunction(nullptr, 0, 0, 0);
   }
-  brelt::AddInputMethodWindows(exclude);
-  return brelt::RunMainLoop(mainWindow, exclude);
+  AddInputMethodWindows(exclude);
+  return RunMainLoop(mainWindow, exclude);
 }
 
 int32_t __stdcall DoEvents(void) {
-  brelt::TraceCall(__func__);
+  TraceCall(__func__);
   MSG message;
   while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
     TranslateMessage(&message);

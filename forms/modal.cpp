@@ -66,18 +66,19 @@ void ShowInPlace(HWND window) noexcept {
 
 }  // namespace brelt
 
+using namespace brelt;
+
 BOOL __stdcall Enum_GetEnabledWindows(HWND window, LPARAM context) {
-  auto* set = reinterpret_cast<brelt::ModalSet*>(context);
-  if (set == nullptr || set->count >= brelt::kModalSetSize) return FALSE;
-  if (IsWindowEnabled(window) && (brelt::StyleOf(window) & WS_CHILD) == 0)
-    set->windows[set->count++] = window;
+  auto* set = reinterpret_cast<ModalSet*>(context);
+  if (set == nullptr || set->count >= kModalSetSize) return FALSE;
+  if (IsWindowEnabled(window) && (StyleOf(window) & WS_CHILD) == 0) set->windows[set->count++] = window;
   return TRUE;
 }
 
 int32_t __stdcall IsModal(const char* name, uint8_t* isModal) {
-  const brelt::ObjectCall call(__func__, name, 0, brelt::TruthOutput{isModal});
+  const ObjectCall call(__func__, name, 0, TruthOutput{isModal});
   // A window that isn't there isn't modal: no failure, unlike in nearly all other calls.
   if (call.code() == RTX_NO_WINDOW) return RTX_OK;
-  if (call.code() == RTX_OK) *isModal = brelt::IsModalWindow(call.window()) ? 1 : 0;
+  if (call.code() == RTX_OK) *isModal = IsModalWindow(call.window()) ? 1 : 0;
   return call.code();
 }

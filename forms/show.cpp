@@ -57,18 +57,20 @@ int32_t ShowWindowObject(const LoadRequest& request, HWND* window, bool modal, i
 }  // namespace
 }  // namespace brelt
 
+using namespace brelt;
+
 int32_t __stdcall Show(HMODULE instance, const char* name, const char* rcFile, EventFunction eventFunction,
                        HWND* window, int32_t modal, int32_t* result) {
-  brelt::TraceCall(__func__);
+  TraceCall(__func__);
   int32_t button = 0;
   const int32_t code =
-      brelt::ShowWindowObject({instance, name, rcFile, eventFunction, nullptr}, window, modal != 0, button);
+      ShowWindowObject({instance, name, rcFile, eventFunction, nullptr}, window, modal != 0, button);
   if (result != nullptr) *result = button;
   return code;
 }
 
 int32_t __stdcall Hide(const char* name) {
-  const brelt::ObjectCall call(__func__, name, 0);
+  const ObjectCall call(__func__, name, 0);
   if (call.code() != RTX_OK) return call.code();
   RECT area = {};
   GetWindowRect(call.window(), &area);
@@ -80,7 +82,7 @@ int32_t __stdcall Hide(const char* name) {
 }
 
 int32_t __stdcall Unload(const char* name) {
-  const brelt::ObjectCall call(__func__, name, 0);
+  const ObjectCall call(__func__, name, 0);
   if (call.code() != RTX_OK) return call.code();
   return static_cast<int32_t>(SendMessageA(call.window(), WM_CLOSE, 0, 0));
 }

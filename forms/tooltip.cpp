@@ -248,6 +248,8 @@ void CloseTooltip() noexcept {
 
 }  // namespace brelt
 
+using namespace brelt;
+
 LRESULT __stdcall ToolTip_proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  return brelt::Dispatch(brelt::kTooltipTable, {window, message, wParam, lParam});
+  return Dispatch(kTooltipTable, {window, message, wParam, lParam});
 }

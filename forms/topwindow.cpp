@@ -225,10 +225,12 @@ void TrimSystemMenu(HWND window) noexcept {
 
 }  // namespace brelt
 
+using namespace brelt;
+
 BOOL __stdcall Enum_FindOverlappedWindow(HWND window, LPARAM context) {
-  auto* search = reinterpret_cast<brelt::OverlappedSearch*>(context);
+  auto* search = reinterpret_cast<OverlappedSearch*>(context);
   if (search == nullptr) return FALSE;
-  if (!brelt::IsWindowObject(window) || (brelt::StyleOf(window) & (WS_CHILD | WS_POPUP)) != 0) return TRUE;
+  if (!IsWindowObject(window) || (StyleOf(window) & (WS_CHILD | WS_POPUP)) != 0) return TRUE;
   search->found = window;
   return FALSE;
 }

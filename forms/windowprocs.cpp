@@ -65,12 +65,14 @@ static_assert(HasEachNumberOnce(kEditTable));
 }  // namespace
 }  // namespace brelt
 
+using namespace brelt;
+
 LRESULT __stdcall Dialog_proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  return brelt::Dispatch(brelt::kDialogTable, {window, message, wParam, lParam});
+  return Dispatch(kDialogTable, {window, message, wParam, lParam});
 }
 
 LRESULT __stdcall Editwindow_proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  return brelt::Dispatch(brelt::kEditTable, {window, message, wParam, lParam});
+  return Dispatch(kEditTable, {window, message, wParam, lParam});
 }
 
 LRESULT __stdcall Richeditwindow_proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

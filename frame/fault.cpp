@@ -2,9 +2,10 @@
 #include "include/brelt.h"
 
 void __stdcall RaiseGuiRtx(int32_t code) {
+  volatile char* const nowhere = nullptr;
   switch (code) {
     case 5:
-      *static_cast<volatile char*>(nullptr) = 0;
+      *nowhere = 0;  // NOLINT(clang-analyzer-core.NullDereference): the very purpose
       break;
     case 29:
       __asm__ volatile("ud2");
@@ -14,7 +15,8 @@ void __stdcall RaiseGuiRtx(int32_t code) {
       break;
     case 253:
       for (;;) __asm__ volatile("");
-    case 142:  // Known codes without a fault of their own; programs pass them.
+    // NOLINTNEXTLINE(bugprone-branch-clone): known codes without a fault of their own; programs pass them
+    case 142:
     case 148:
       break;
     default:

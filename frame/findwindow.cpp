@@ -15,10 +15,12 @@ struct WindowSearch {
 }  // namespace
 }  // namespace brelt
 
+using namespace brelt;
+
 HWND __stdcall FindWindowHandle(const char* className, const char* title, int32_t mode, int32_t threadOnly) {
-  if (brelt::rc::IsEmpty(className) || brelt::rc::IsEmpty(title)) return nullptr;
+  if (rc::IsEmpty(className) || rc::IsEmpty(title)) return nullptr;
   if (mode != 0 && mode != 1) return nullptr;
-  brelt::WindowSearch search;
+  WindowSearch search;
   search.className.Assign(className);
   search.title.Assign(title);
   search.mode = mode;
@@ -32,14 +34,13 @@ HWND __stdcall FindWindowHandle(const char* className, const char* title, int32_
 }
 
 BOOL __stdcall Enum_FindWindowHandle(HWND window, LPARAM context) {
-  auto* search = reinterpret_cast<brelt::WindowSearch*>(context);
+  auto* search = reinterpret_cast<WindowSearch*>(context);
   if (search == nullptr) return FALSE;
-  brelt::rc::FixedText<255> title;
+  rc::FixedText<255> title;
   // A window of another program that hangs can't hold this up: its title is read without asking it.
   GetWindowTextA(window, title.data(), title.kCapacity + 1);
-  const bool matches =
-      brelt::TextMatches(search->className.c_str(), brelt::ClassNameOf(window).c_str(), search->mode) &&
-      brelt::TextMatches(search->title.c_str(), title.c_str(), search->mode);
+  const bool matches = TextMatches(search->className.c_str(), ClassNameOf(window).c_str(), search->mode) &&
+                       TextMatches(search->title.c_str(), title.c_str(), search->mode);
   if (!matches) return TRUE;
   search->found = window;
   return FALSE;

@@ -35,28 +35,27 @@ const char* WindowKind(HWND window) noexcept {
 }  // namespace
 }  // namespace brelt
 
-using brelt::ObjectCall;
-using brelt::TextOutput;
+using namespace brelt;
 
 HWND __stdcall GetHandle(const char* name, int32_t id, const char* controlName) {
   const ObjectCall call(__func__, name, id);
   if (call.code() != RTX_OK) return nullptr;
   HWND found = call.control();
   if (id == 0) found = call.window();
-  if (id == -1) found = brelt::FindControlByName(call.window(), controlName);
+  if (id == -1) found = FindControlByName(call.window(), controlName);
   return IsWindow(found) ? found : nullptr;
 }
 
 int32_t __stdcall GetName(const char* name, int32_t id, char* buffer, int32_t size) {
   const ObjectCall call(__func__, name, id, TextOutput{buffer, size});
   if (call.code() != RTX_OK) return call.code();
-  const brelt::WindowRow* row = nullptr;
+  const WindowRow* row = nullptr;
   if (id == 0) {
-    row = brelt::RecordOf(call.window());
-  } else if (call.control() != nullptr && brelt::IsDialog(GetParent(call.control()))) {
-    row = brelt::RowOfControl(call.window(), call.control());
+    row = RecordOf(call.window());
+  } else if (call.control() != nullptr && IsDialog(GetParent(call.control()))) {
+    row = RowOfControl(call.window(), call.control());
   }
-  if (row != nullptr) brelt::rc::TextBuffer(buffer, size).Assign(row->name.view());
+  if (row != nullptr) rc::TextBuffer(buffer, size).Assign(row->name.view());
   return RTX_OK;
 }
 
@@ -64,15 +63,15 @@ int32_t __stdcall GetTypeof(const char* name, int32_t id, char* buffer, uint32_t
   const int32_t room = size > INT32_MAX ? INT32_MAX : static_cast<int32_t>(size);
   const ObjectCall call(__func__, name, id, TextOutput{buffer, room});
   if (buffer == nullptr || name == nullptr) return RTX_OK;
-  const brelt::rc::TextBuffer out(buffer, room);
-  if (const char* object = brelt::WindowlessObject(name); object != nullptr) {
+  const rc::TextBuffer out(buffer, room);
+  if (const char* object = WindowlessObject(name); object != nullptr) {
     out.Assign(object);
   } else if (call.code() != RTX_OK) {
     return RTX_OK;
   } else if (id == 0) {
-    out.Assign(brelt::WindowKind(call.window()));
+    out.Assign(WindowKind(call.window()));
   } else if (call.control() != nullptr) {
-    brelt::ObjectTypeOf(call.control(), nullptr, 0, out);
+    ObjectTypeOf(call.control(), nullptr, 0, out);
   } else if (call.IsMenuItem()) {
     out.Assign("Menuitem");
   }
@@ -81,6 +80,6 @@ int32_t __stdcall GetTypeof(const char* name, int32_t id, char* buffer, uint32_t
 
 EventFunction __stdcall GetFuncptr(const char* name, int32_t id) {
   const ObjectCall call(__func__, name, id);
-  if (!brelt::IsWindowObject(call.window())) return nullptr;
-  return reinterpret_cast<EventFunction>(brelt::ReadSlot(call.window(), brelt::SLOT_FUNCPTR));
+  if (!IsWindowObject(call.window())) return nullptr;
+  return reinterpret_cast<EventFunction>(ReadSlot(call.window(), SLOT_FUNCPTR));
 }

@@ -6,6 +6,8 @@
 
 #include <cstdint>
 
+#include "frame/trace.h"
+#include "frame/winobject.h"
 #include "include/events.h"
 #include "rc/text.h"
 
@@ -44,24 +46,33 @@ struct TextOutput {
   void Clear() const noexcept { rc::TextBuffer(buffer, size).Clear(); }
 };
 
-// A text that comes in.
-struct TextInput {
-  static constexpr std::int32_t kMissing = RTX_NULL_ARG;
-  const char* text;
+// A text, array or picture that comes in.
+template <std::int32_t Missing>
+struct Input {
+  static constexpr std::int32_t kMissing = Missing;
+  const void* value;
 
-  bool IsMissing() const noexcept { return text == nullptr; }
+  bool IsMissing() const noexcept { return value == nullptr; }
   void Clear() const noexcept {}
 };
+using TextInput = Input<RTX_NULL_ARG>;
+using ArrayInput = Input<RTX_NULL_ARRAY>;
 
 class ObjectCall {
  public:
   // function is the export's own name, __func__ in its body.
   template <typename... Arguments>
   ObjectCall(const char* function, const char* name, std::int32_t id, Arguments... arguments) noexcept
+      : ObjectCall(ResolveName, function, name, id, arguments...) {}
+
+  // The same with a way of its own from the name to the window.
+  template <typename... Arguments>
+  ObjectCall(HWND (*resolve)(const char* name) noexcept, const char* function, const char* name,
+             std::int32_t id, Arguments... arguments) noexcept
       : id_(id) {
-    Trace(function);
+    TraceCall(function);
     (arguments.Clear(), ...);
-    Resolve(name);
+    Resolve(resolve(name));
     code_ = name == nullptr ? std::int32_t{RTX_NULL_ARG} : RTX_OK;
     (Require(arguments.IsMissing(), arguments.kMissing), ...);
     Require(window_ == nullptr, RTX_NO_WINDOW);
@@ -77,10 +88,11 @@ class ObjectCall {
   HMENU menu() const noexcept { return menu_; }
   // Whether the id is an item of the window's menu.
   bool IsMenuItem() const noexcept;
+  // What a call that doesn't apply to the object reports: 703 for a control or menu item, 727 for neither.
+  std::int32_t WrongObject() const noexcept;
 
  private:
-  static void Trace(const char* function) noexcept;
-  void Resolve(const char* name) noexcept;
+  void Resolve(HWND window) noexcept;
   void Require(bool missing, std::int32_t code) noexcept {
     if (code_ == RTX_OK && missing) code_ = code;
   }

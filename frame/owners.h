@@ -37,6 +37,8 @@ class Owned {
 // Named functions and no lambdas: a lambda is another type in each file that includes this.
 inline void ReleaseFont(HFONT font) noexcept { DeleteObject(font); }
 inline void ReleaseBitmap(HBITMAP bitmap) noexcept { DeleteObject(bitmap); }
+inline void ReleasePen(HPEN pen) noexcept { DeleteObject(pen); }
+inline void ReleaseRegion(HRGN region) noexcept { DeleteObject(region); }
 inline void ReleaseIcon(HICON icon) noexcept { DestroyIcon(icon); }
 inline void ReleaseModule(HMODULE module) noexcept { FreeLibrary(module); }
 inline void ReleaseMenu(HMENU menu) noexcept { DestroyMenu(menu); }
@@ -45,6 +47,8 @@ inline void ReleaseContext(HDC dc) noexcept { DeleteDC(dc); }
 
 using OwnedFont = Owned<HFONT, ReleaseFont>;
 using OwnedBitmap = Owned<HBITMAP, ReleaseBitmap>;
+using OwnedPen = Owned<HPEN, ReleasePen>;
+using OwnedRegion = Owned<HRGN, ReleaseRegion>;
 using OwnedIcon = Owned<HICON, ReleaseIcon>;
 using OwnedModule = Owned<HMODULE, ReleaseModule>;
 using OwnedMenu = Owned<HMENU, ReleaseMenu>;

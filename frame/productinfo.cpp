@@ -33,10 +33,12 @@ std::string_view ProductText(char letter) noexcept {
 }  // namespace
 }  // namespace brelt
 
+using namespace brelt;
+
 char* __stdcall GetProductInformation(char letter, char* buffer, uint32_t size) {
-  brelt::TraceCall(__func__);
+  TraceCall(__func__);
   if (buffer == nullptr || size == 0) return buffer;
   const int room = size > INT32_MAX ? INT32_MAX : static_cast<int>(size);
-  brelt::rc::TextBuffer(buffer, room).Assign(brelt::ProductText(letter));
+  rc::TextBuffer(buffer, room).Assign(ProductText(letter));
   return buffer;
 }

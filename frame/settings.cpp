@@ -3,8 +3,7 @@
 #include "frame/trace.h"
 #include "include/brelt.h"
 
-using brelt::Library;
-using brelt::TraceCall;
+using namespace brelt;
 
 namespace {
 

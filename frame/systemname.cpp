@@ -49,8 +49,10 @@ std::uint32_t SystemMajorVersion() noexcept { return QueryVersion().dwMajorVersi
 
 }  // namespace brelt
 
+using namespace brelt;
+
 void __stdcall SystemInfo(char* buffer, int32_t size, uint32_t* major, uint32_t* minor, uint32_t* bits) {
-  brelt::TraceCall(__func__);
+  TraceCall(__func__);
   if (buffer == nullptr || size <= 0 || major == nullptr || minor == nullptr || bits == nullptr) return;
-  brelt::QuerySystemName({buffer, size}, *major, *minor, *bits);
+  QuerySystemName({buffer, size}, *major, *minor, *bits);
 }

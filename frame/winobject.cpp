@@ -96,11 +96,13 @@ WindowRow* RowOfControl(HWND window, HWND control) noexcept {
 
 }  // namespace brelt
 
+using namespace brelt;
+
 BOOL __stdcall Enum_GetOurWindowHandle(HWND window, LPARAM context) {
-  auto* search = reinterpret_cast<brelt::NameSearch*>(context);
+  auto* search = reinterpret_cast<NameSearch*>(context);
   if (search == nullptr) return FALSE;
-  const brelt::WindowRow* record = brelt::RecordOf(window);
-  if (record == nullptr || !brelt::rc::EqualIgnoreCase(record->name.view(), search->name.view())) return TRUE;
+  const WindowRow* record = RecordOf(window);
+  if (record == nullptr || !rc::EqualIgnoreCase(record->name.view(), search->name.view())) return TRUE;
   search->found = window;
   return FALSE;
 }

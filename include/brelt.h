@@ -134,6 +134,395 @@ BRELT_API(int32_t) DoEvents(void);
 BRELT_API(int32_t)
 MainLoop(HMODULE instance, HWND mainWindow, HWND extraWindow, EventFunction startFunction);
 
+/* ==== Properties ==== */
+
+/* The functions of this family get and set one property each. They take the name of a window and the id of a
+ * control or menu item; id 0 is the window. Checks come in this order: 756 for a null name, then 751 (truth
+ * value), 753 (number) or 756 (text) for a null argument, 702 if no window of this thread has the name, 703
+ * if the object is of a kind without the property, 727 if the id is neither a control nor a menu item. An
+ * output is cleared before any check. Truth values are bytes, 0 or 1; any byte other than 0 is true when it
+ * comes in. Colours are 0x00BBGGRR. Indexes of lists count from the option base. */
+
+/* Gets the text that a window keeps under a key; empty if it has none. Keys ignore case. Window only. */
+BRELT_API(int32_t) GetArrayValue(const char* name, int32_t id, const char* key, char* text, int32_t size);
+
+/* Keeps a text under a key with the window, in place of the one there was. Window only. 708 without memory.
+ */
+BRELT_API(int32_t) SetArrayValue(const char* name, int32_t id, const char* key, const char* value);
+
+/* Gets many of the texts that a window keeps. The pattern "*" gives the whole block of key=value texts,
+ * "name[]" the values of all keys name[...]; each text is terminated and an empty one ends the block. needed
+ * gets the bytes that the block takes, also when it doesn't fit, which leaves it empty. block may be null to
+ * ask for the size. Window only. */
+BRELT_API(int32_t)
+GetArrayValues(const char* name, int32_t id, const char* pattern, char* block, int32_t size, int32_t* needed);
+
+/* Keeps a whole block of key=value texts with the window, in place of all there was. Window only. 760 for a
+ * null block, 708 without memory. */
+BRELT_API(int32_t) SetArrayValues(const char* name, int32_t id, const char* block);
+
+/* Gets the background colour: of drawing for a window, of a Shape or Progressbar control, or of the printer
+ * for the name "Printer". */
+BRELT_API(int32_t) GetBackColour(const char* name, int32_t id, int32_t* colour);
+
+/* Sets the background colour of the same objects. */
+BRELT_API(int32_t) SetBackColour(const char* name, int32_t id, int32_t colour);
+
+/* Gets the foreground colour of the same objects. */
+BRELT_API(int32_t) GetForeColour(const char* name, int32_t id, int32_t* colour);
+
+/* Sets the foreground colour of the same objects. */
+BRELT_API(int32_t) SetForeColour(const char* name, int32_t id, int32_t colour);
+
+/* Gets the border: of a window 0 none, 1 single, 2 sizable, 3 double; of a Shape its own; of any other
+ * control 0 or 1. A control's border shows only if its style still has it: standard controls get a sunken
+ * edge instead. */
+BRELT_API(int32_t) GetBorderStyle(const char* name, int32_t id, int32_t* style);
+
+/* Gets the text on a window, button, label, icon list or menu item. */
+BRELT_API(int32_t) GetCaption(const char* name, int32_t id, char* text, int32_t size);
+
+/* Sets the text on the same objects. A menu item keeps its check mark and greying. */
+BRELT_API(int32_t) SetCaption(const char* name, int32_t id, const char* text);
+
+/* Tells whether a menu item has a check mark. Menu items only; controls have a value. */
+BRELT_API(int32_t) GetChecked(const char* name, int32_t id, uint8_t* isChecked);
+
+/* Gives a menu item a check mark or takes it. Menu items only. */
+BRELT_API(int32_t) SetChecked(const char* name, int32_t id, uint8_t isChecked);
+
+/* Gets the style of a combo box: 0 drop-down, 1 simple, 2 drop-down list. */
+BRELT_API(int32_t) GetCombostyle(const char* name, int32_t id, int32_t* style);
+
+/* Gets the text in the field of a combo box; empty for a drop-down list. */
+BRELT_API(int32_t) GetCombotext(const char* name, int32_t id, char* text, int32_t size);
+
+/* Sets the text in the field of a combo box, cut to its maximum length. A drop-down list has no field. 708
+ * without memory. */
+BRELT_API(int32_t) SetCombotext(const char* name, int32_t id, const char* text);
+
+/* Gets the horizontal drawing position of a window or, for a null handle, of the printer. Returns 0. */
+BRELT_API(int32_t) GetCurrentX(HWND window, int32_t* value);
+
+/* Sets it. Returns 0. */
+BRELT_API(int32_t) SetCurrentX(HWND window, int32_t value);
+
+/* Gets the vertical drawing position of a window or, for a null handle, of the printer. Returns 0. */
+BRELT_API(int32_t) GetCurrentY(HWND window, int32_t* value);
+
+/* Sets it. Returns 0. */
+BRELT_API(int32_t) SetCurrentY(HWND window, int32_t value);
+
+/* The horizontal pixels per inch of the printer of the running job, 0 without one, for the name "Printer"; of
+ * the display for any other name. 0 for null. */
+BRELT_API(int32_t) GetDpiX(const char* name);
+
+/* The vertical pixels per inch of the same. */
+BRELT_API(int32_t) GetDpiY(const char* name);
+
+/* Tells whether a window, control or menu item is enabled. */
+BRELT_API(int32_t) GetEnabled(const char* name, int32_t id, uint8_t* isEnabled);
+
+/* Enables or disables a control or menu item. A control that loses the focus by it passes it on. */
+BRELT_API(int32_t) SetEnabled(const char* name, int32_t id, uint8_t isEnabled);
+
+/* Gets the flags word of a window. */
+BRELT_API(int32_t) GetFlags(const char* name, int32_t* flags);
+
+/* Sets the low 16 bits of the flags word; the others stay. */
+BRELT_API(int32_t) SetFlags(const char* name, int32_t flags);
+
+/* Gets the face of the font of a window by its handle: of a Dialog the font that is drawn with, of any other
+ * window its own; for a null handle that of the printer. Empty for no window. Returns 0. */
+BRELT_API(int32_t) GetFontName(HWND window, char* text, int32_t size);
+
+/* Sets the face of the same font. 702 if the handle is no window, 712 if the font can't be changed, 924 for
+ * the printer without a print job. */
+BRELT_API(int32_t) SetFontName(HWND window, const char* text);
+
+/* Gets the size of the same font in points. Returns 0. */
+BRELT_API(int32_t) GetFontSize(HWND window, int32_t* value);
+
+/* Sets it; codes as SetFontName. */
+BRELT_API(int32_t) SetFontSize(HWND window, int32_t value);
+
+/* Tells whether the same font is bold. Returns 0. */
+BRELT_API(int32_t) GetFontBold(HWND window, uint8_t* value);
+
+/* Sets it; codes as SetFontName. */
+BRELT_API(int32_t) SetFontBold(HWND window, uint8_t value);
+
+/* Tells whether the same font is italic. Returns 0. */
+BRELT_API(int32_t) GetFontItalic(HWND window, uint8_t* value);
+
+/* Sets it; codes as SetFontName. */
+BRELT_API(int32_t) SetFontItalic(HWND window, uint8_t value);
+
+/* Gets from a list box, icon list or combo box, by type: "String" gives the text of an item or, with the
+ * index 0x7FFFFFFF, all items with a line feed behind each; what doesn't fit gives a mark such as "<ListBox
+ * text too long>". "Tbitmap" gives the picture of an icon list's item. An index out of range gives an empty
+ * buffer, which is cleared whole. 756 for a null text or type, 703 for another type. */
+BRELT_API(int32_t)
+GetList(const char* name, int32_t id, int32_t index, char* text, int32_t size, const char* type);
+
+/* Sets in the same lists: "String" replaces the text of an item or, with the index 0x7FFFFFFF, the whole list
+ * by the lines of the text. "Tbitmap" sets the picture of an icon list's item, which the caller keeps. An
+ * index out of range does nothing. */
+BRELT_API(int32_t) SetList(const char* name, int32_t id, int32_t index, const void* value, const char* type);
+
+/* Gets the number of items of a list box, icon list or combo box. */
+BRELT_API(int32_t) GetListCount(const char* name, int32_t id, int32_t* count);
+
+/* Gets the selected item of the same lists, -1 for none. */
+BRELT_API(int32_t) GetListIndex(const char* name, int32_t id, int32_t* index);
+
+/* Selects an item of the same lists, none by -1. */
+BRELT_API(int32_t) SetListIndex(const char* name, int32_t id, int32_t index);
+
+/* Gets the upper end of the range of a scroll bar or progress bar. */
+BRELT_API(int32_t) GetMax(const char* name, int32_t id, int32_t* value);
+
+/* Sets it. A range that isn't within -32768 to 32767 or spans more than 32767 is refused without a code. */
+BRELT_API(int32_t) SetMax(const char* name, int32_t id, int32_t value);
+
+/* Gets the lower end of the same range. */
+BRELT_API(int32_t) GetMin(const char* name, int32_t id, int32_t* value);
+
+/* Sets it, as SetMax. */
+BRELT_API(int32_t) SetMin(const char* name, int32_t id, int32_t value);
+
+/* Gets the text limit of an edit field or combo box, 0 for none. */
+BRELT_API(int32_t) GetMaxLength(const char* name, int32_t id, int32_t* length);
+
+/* Sets it. A drop-down list has none. */
+BRELT_API(int32_t) SetMaxLength(const char* name, int32_t id, int32_t length);
+
+/* Gets the place and size of a window when it is maximised. outer 0 gives the client size, 1 the outer size.
+ * Window only. */
+BRELT_API(int32_t)
+GetMaxPosition(const char* name, int32_t id, int32_t outer, int32_t* x, int32_t* y, int32_t* width,
+               int32_t* height);
+
+/* Sets it, on a window that the user can size. Width and height 0 bring the system's values back. */
+BRELT_API(int32_t)
+SetMaxPosition(const char* name, int32_t id, int32_t outer, int32_t x, int32_t y, int32_t width,
+               int32_t height);
+
+/* Gets the smallest size of a window; x and y are 0. outer as above. Window only. */
+BRELT_API(int32_t)
+GetMinPosition(const char* name, int32_t id, int32_t outer, int32_t* x, int32_t* y, int32_t* width,
+               int32_t* height);
+
+/* Sets it, on a window that the user can size. Width and height 0 take the limit away. */
+BRELT_API(int32_t)
+SetMinPosition(const char* name, int32_t id, int32_t outer, int32_t x, int32_t y, int32_t width,
+               int32_t height);
+
+/* Tells whether the user has changed the text of an edit field or edit window. */
+BRELT_API(int32_t) GetModify(const char* name, int32_t id, uint8_t* isModified);
+
+/* Sets that mark. */
+BRELT_API(int32_t) SetModify(const char* name, int32_t id, uint8_t isModified);
+
+/* Gets the height of a page of the running print job ("Printer"), of the screen ("Screen") or of a window's
+ * canvas, in pixels. Returns 0. */
+BRELT_API(int32_t) GetPageHeight(const char* name, int32_t* value);
+
+/* Gets the width of the same. Returns 0. */
+BRELT_API(int32_t) GetPageWidth(const char* name, int32_t* value);
+
+/* Gets the character that an edit field shows in place of what is typed, 0 for none. */
+BRELT_API(int32_t) GetPasswordChar(const char* name, int32_t id, int32_t* character);
+
+/* Sets it by its low 8 bits. For the asterisk, 42, a black circle is shown where the platform has one. */
+BRELT_API(int32_t) SetPasswordChar(const char* name, int32_t id, int32_t character);
+
+/* Gets the height of the sheet, margins included, for the name "Printer" while a job runs; otherwise 0.
+ * Returns 0. */
+BRELT_API(int32_t) GetPhysicalHeight(const char* name, int32_t* value);
+
+/* Gets the width of the sheet in the same way. Returns 0. */
+BRELT_API(int32_t) GetPhysicalWidth(const char* name, int32_t* value);
+
+/* Gets the width of the sheet's left margin in the same way. Returns 0. */
+BRELT_API(int32_t) GetPhysicalOffsetX(const char* name, int32_t* value);
+
+/* Gets the height of the sheet's top margin in the same way. Returns 0. */
+BRELT_API(int32_t) GetPhysicalOffsetY(const char* name, int32_t* value);
+
+/* Gets the picture of an Image or Bitmapbutton control, or the canvas of a window, as a packed bitmap. The
+ * buffer is cleared whole; no picture leaves it so. 710 for a null buffer, 705 if it is too small. */
+BRELT_API(int32_t) GetPicture(const char* name, int32_t id, void* buffer, int32_t size);
+
+/* Shows a packed bitmap on the same objects. 756 for a null picture. */
+BRELT_API(int32_t) SetPicture(const char* name, int32_t id, const void* picture);
+
+/* Gets the place and size of a window or control in pixels. Of a control they are in its parent's client
+ * coordinates. Of a window, mode 0 gives its place on the screen with its client size, mode 1 with its outer
+ * size; another mode nothing. The name may be a window's handle as a hexadecimal text such as "0x1F02";
+ * "Screen" gives the work area. */
+BRELT_API(int32_t)
+GetPosition(const char* name, int32_t id, int32_t mode, int32_t* x, int32_t* y, int32_t* width,
+            int32_t* height);
+
+/* Moves and sizes the same objects, in the same terms. */
+BRELT_API(int32_t)
+SetPosition(const char* name, int32_t id, int32_t mode, int32_t x, int32_t y, int32_t width, int32_t height);
+
+/* Tells whether an edit field can't be typed in. */
+BRELT_API(int32_t) GetReadonly(const char* name, int32_t id, uint8_t* isReadOnly);
+
+/* Gets the selection of an edit field or edit window: the first character, from 1, and the number of
+ * characters. */
+BRELT_API(int32_t) GetSelection(const char* name, int32_t id, int32_t* start, int32_t* length);
+
+/* Sets it and scrolls it into view. */
+BRELT_API(int32_t) SetSelection(const char* name, int32_t id, int32_t start, int32_t length);
+
+/* Gets the selected text of an edit field or edit window. */
+BRELT_API(int32_t) GetSelText(const char* name, int32_t id, char* text, int32_t size);
+
+/* Puts a text in place of the selection. An edit field refuses one that goes beyond its maximum length by a
+ * beep. 708 without memory. */
+BRELT_API(int32_t) SetSelText(const char* name, int32_t id, const char* text);
+
+/* Gets the text of an edit field, of an edit window or, for the name "Clipboard", of the clipboard. */
+BRELT_API(int32_t) GetText(const char* name, int32_t id, char* text, int32_t size);
+
+/* Sets it. Line ends become those of the platform, and an edit field's text is cut to its maximum length. 708
+ * without memory. */
+BRELT_API(int32_t) SetText(const char* name, int32_t id, const char* text);
+
+/* Gets its length in characters. */
+BRELT_API(int32_t) GetTextLength(const char* name, int32_t id, int32_t* length);
+
+/* Gets the list of words by which an edit window colours its text. Edit windows only. */
+BRELT_API(int32_t) GetTokens(const char* name, int32_t id, char* text, int32_t size);
+
+/* Sets it and colours the whole text anew. Edit windows only. 708 without memory. */
+BRELT_API(int32_t) SetTokens(const char* name, int32_t id, const char* text);
+
+/* Gets the state of a button (0 off, 1 on, 2 greyed), or the position of a scroll bar or progress bar. */
+BRELT_API(int32_t) GetValue(const char* name, int32_t id, int32_t* value);
+
+/* Sets it, held within the range. Turning a radio button on turns the others of its group off. */
+BRELT_API(int32_t) SetValue(const char* name, int32_t id, int32_t value);
+
+/* Tells whether a window or control is visible; of a control by its own style, whether its window shows or
+ * not. An unknown name gives false and 0. */
+BRELT_API(int32_t) GetVisible(const char* name, int32_t id, uint8_t* isVisible);
+
+/* Shows or hides a control. */
+BRELT_API(int32_t) SetVisible(const char* name, int32_t id, uint8_t isVisible);
+
+/* Gets the state of a window: 0 normal, 1 minimised, 2 maximised. Window only. */
+BRELT_API(int32_t) GetWindowState(const char* name, int32_t id, int32_t* state);
+
+/* Sets it, as far as the window has the box for it. */
+BRELT_API(int32_t) SetWindowState(const char* name, int32_t id, int32_t state);
+
+/* Gives the measures of a packed bitmap: width, height, bits of a pixel, bytes of the whole, and 87 for a
+ * Windows or 79 for an OS/2 header. All outputs are 0 if any is null or the memory holds no readable picture.
+ * Returns 0. */
+BRELT_API(int32_t)
+GetBitmapInfo(const void* picture, int32_t* width, int32_t* height, int32_t* bits, int32_t* size,
+              int32_t* kind);
+
+/* The page number of the running print job, 0 without one. */
+BRELT_API(int32_t) GetPage(void);
+
+/* The status of the print job: 1 while it takes drawing, 0 without one. */
+BRELT_API(int32_t) GetPrinterStatus(void);
+
+/* ==== Menus ==== */
+
+/* Adds an item behind the one with afterId, in the same menu or popup. If the menu has newId already, nothing
+ * happens and the result is 0. Codes: 756, 702, 727 without a menu or without afterId, 703 if a control has
+ * newId. */
+BRELT_API(int32_t) AddMenuitem(const char* name, uint32_t afterId, uint32_t newId, const char* text);
+
+/* Adds items behind the one with afterId: ids ends in 0, and each id takes one line of texts, which end in
+ * line feeds. Nothing is added if any id is a control's or in the menu already: 703. Other codes: 756, 760
+ * for null ids, 702, 727. */
+BRELT_API(int32_t) AddMenuitems(const char* name, uint32_t afterId, const uint32_t* ids, const char* texts);
+
+/* Removes an item. An unknown id is no failure. Codes: 756, 702, 727 without a menu. */
+BRELT_API(int32_t) RemoveMenuitem(const char* name, uint32_t id);
+
+/* Removes count items of a menu or popup, from the one with firstId on. Codes as RemoveMenuitem. */
+BRELT_API(int32_t) RemoveMenuitems(const char* name, uint32_t firstId, int32_t count);
+
+/* ==== Arrays, lists and groups ==== */
+
+/* Neighbouring controls of one kind form an array, and so do the items of one menu or popup; any member's id
+ * stands for it. Indexes count from the option base. Outputs start at -1. Codes of the four array calls: 756,
+ * 753, 702, 707 for id 0, 727. */
+
+/* Gets the id of the element with an index; -1 if the index is out of range. */
+BRELT_API(int32_t) Controlarray(const char* name, int32_t id, int32_t index, int32_t* memberId);
+
+/* Gets the index of memberId, a control or item of the window memberName, in the array of id; -1 if it isn't
+ * in it. */
+BRELT_API(int32_t)
+Controlarraypos(const char* name, int32_t id, const char* memberName, int32_t memberId, int32_t* index);
+
+/* Gets the first index of an array, the option base. */
+BRELT_API(int32_t) ControlLbound(const char* name, int32_t id, int32_t* bound);
+
+/* Gets the last index of an array. */
+BRELT_API(int32_t) ControlUbound(const char* name, int32_t id, int32_t* bound);
+
+/* Lists the controls of a window, a line for each: its name, and with details other than 0 also ",", its
+ * kind, ",0x" and its handle in hexadecimal. count gets the number of controls, which is also the result.
+ * Nothing happens unless the window is a Dialog and all arguments are given. */
+BRELT_API(int32_t) ControlList(const char* name, uint8_t details, char* text, int32_t size, int32_t* count);
+
+/* Gets the id of the button of a group that is turned on; -1 if none is. selectedId may be null. Codes: 756,
+ * 702, 703 for a control that isn't in such a group, 727. */
+BRELT_API(int32_t) Controlselection(const char* name, int32_t id, int32_t* selectedId);
+
+/* Gets its position in the group, from the option base. Otherwise as Controlselection. */
+BRELT_API(int32_t) Controlselectionpos(const char* name, int32_t id, int32_t* position);
+
+/* Adds an item to a list box, icon list or combo box, ahead of the one with an index, or at the end by -1.
+ * The text is cut to 1024 characters and loses a line end. picture is kept with the item of an icon list; the
+ * caller owns it. An index out of range does nothing. Codes: 756, 702, 703 for another control, 727. */
+BRELT_API(int32_t)
+AddItem(const char* name, int32_t id, int32_t index, const char* text, const void* picture);
+
+/* Removes the item with an index. The item that follows a selected one is selected, or the last. Codes as
+ * AddItem. */
+BRELT_API(int32_t) RemoveItem(const char* name, int32_t id, int32_t index);
+
+/* Removes all items. Codes as AddItem. */
+BRELT_API(int32_t) Clear(const char* name, int32_t id);
+
+/* Sets the tab stops of a list box or icon list so that its columns, which tabs divide, line up. Codes: 756,
+ * 702, 703, 727. */
+BRELT_API(int32_t) AlignItems(const char* name, int32_t id);
+
+/* Sends a text of at most 259 characters to the event function of a window, as EV_CLICK with the id and the
+ * text. The window may belong to another thread or program; the event comes when its messages are handled
+ * next. Codes: 756, 702 if the handle is no window, 703 if it is of another class, 727 for an id below 1. */
+BRELT_API(int32_t) Command(HWND window, int32_t id, const char* text);
+
+/* Sets the icon of all windows that the program loads, from an icon file or a program. The window classes
+ * must be in use. 711 for a null instance or an empty name; a missing file is no failure. */
+BRELT_API(int32_t) AppIcon(HMODULE instance, const char* iconFile);
+
+/* ==== Rubber band ==== */
+
+/* Lets the user move and size a rectangle on a window with the mouse, by a frame with eight handles. The
+ * window must be active and the left button down; otherwise it beeps and changes nothing. flags 1 ends it at
+ * the first release of the button; otherwise any message that isn't the mouse's ends it, and a press outside
+ * the frame. handleSize is held to 0 to 10, minWidth and minHeight to 2 to 100, penWidth to 0 to 10. Drawing
+ * is clipped to the bounds, client coordinates, if right and bottom aren't 0. x, y, width and height are the
+ * rectangle in client coordinates, read and written. Codes: 702. */
+BRELT_API(int32_t)
+TrackRect(const char* name, int32_t flags, int32_t handleSize, int32_t minWidth, int32_t minHeight,
+          int32_t penWidth, int32_t boundLeft, int32_t boundTop, int32_t boundRight, int32_t boundBottom,
+          int32_t* x, int32_t* y, int32_t* width, int32_t* height);
+
 /* ==== Window procedures ==== */
 
 /* The procedures of the library's window classes, exported so that a program can forward messages to them
@@ -170,6 +559,9 @@ BRELT_API(BOOL) Enum_FindOverlappedWindow(HWND window, LPARAM context);
 
 /* Looks for a window that keeps the main loop running. */
 BRELT_API(BOOL) Enum_AppWindowsExist(HWND window, LPARAM context);
+
+/* Collects the controls of a window. */
+BRELT_API(BOOL) Enum_ControlList(HWND window, LPARAM context);
 
 /* Collects the windows that a modal show disables. */
 BRELT_API(BOOL) Enum_GetEnabledWindows(HWND window, LPARAM context);

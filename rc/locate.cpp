@@ -89,17 +89,8 @@ void ResourceWalk::Feed(const char* line) noexcept {
     if (EqualIgnoreCase(first.view(), "BEGIN")) ++depth_;
     if (isEnd) --depth_;
   }
-  switch (kind_) {
-    case Kind::kBlock:
-      lastLine_ = isEnd && depth_ < 1;
-      break;
-    case Kind::kSingleLine:
-      lastLine_ = true;
-      break;
-    case Kind::kOther:
-      lastLine_ = isEnd;
-      break;
-  }
+  // Only a block waits for the END that closes its first BEGIN.
+  lastLine_ = kind_ == Kind::kSingleLine || (isEnd && (kind_ == Kind::kOther || depth_ < 1));
 }
 
 TypeList::TypeList(const char* list) noexcept : list_(View(list)), any_(View(list) == kAny) {

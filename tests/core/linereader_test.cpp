@@ -192,6 +192,11 @@ TEST_F(LineReaderTest, AFailedSeekIsToldAndEndsTheLines) {
   EXPECT_FALSE(reader.Next(line));
 }
 
+TEST_F(LineReaderTest, AnEmptyLineHasNoLineFeed) {
+  char nothing[] = "";
+  EXPECT_FALSE((Line{nothing, 0}.HasLineFeed()));
+}
+
 TEST_F(LineReaderTest, ClosesItsFile) {
   test::WriteFile("a.rc", "one\n");
   {

@@ -38,6 +38,7 @@ TEST(CharacterClasses, AreThePlainAsciiOnesForEveryByte) {
 TEST(CharacterClasses, NamesCompareByTheirLowerCaseFormsByteByByte) {
   EXPECT_EQ(CompareIgnoreCase("abc", "ABC"), 0);
   EXPECT_LT(CompareIgnoreCase("ab", "ABC"), 0);
+  EXPECT_GT(CompareIgnoreCase("ABC", "ab"), 0);
   EXPECT_GT(CompareIgnoreCase("abd", "ABC"), 0);
   // Folded to lower case, '_' comes ahead of every letter; folded to upper case it would come behind.
   EXPECT_LT(CompareIgnoreCase("a_b", "aab"), 0);

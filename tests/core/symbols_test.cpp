@@ -416,6 +416,28 @@ TEST_F(LoadSymbols_, UsesAreCountedOverAllDialogsAndAMenuOnceForEachOfThem) {
       "IDC_TWO 102 4\nidc_one 101 3\n-1 0 0\nIDC_NOWHERE 0 0\nIDOK 0 0\nIDM_OPEN 201 2\nIDM_NOWHERE 0 0\n");
 }
 
+TEST_F(LoadSymbols_, AllOfAFullDialogAndMenuAreSeen) {
+  std::string controls;
+  std::string items;
+  std::string words;
+  std::string rows;
+  for (int i = 1; i <= 255; ++i) {
+    const std::string n = std::to_string(i);
+    controls += "LTEXT \"\",C" + n + ",1,1,1,1\n";
+    items += "MENUITEM \"\",M" + n + "\n";
+  }
+  for (const char* prefix : {"C", "M"}) {
+    for (int i = 1; i <= 255; ++i) {
+      const std::string n = std::to_string(i);
+      words += std::string("#define ") + prefix + n + " " + n + "\n";
+      rows += prefix + n + " " + n + " 1\n";
+    }
+  }
+  test::WriteFile(kPath,
+                  words + "F DIALOG\nMENU M\nBEGIN\n" + controls + "END\nM MENU\nBEGIN\n" + items + "END\n");
+  EXPECT_EQ(Load(kPath, "F", 32).rows, rows);
+}
+
 TEST_F(LoadSymbols_, ASecondDialogOfANameCountsTheFirstAgain) {
   test::WriteFile(kPath,
                   "#define A 1\n#define B 2\nF DIALOG 0,0,1,1\nBEGIN\nLTEXT \"\",A,1,1,1,1\nEND\n"

@@ -11,8 +11,12 @@ namespace {
 
 TEST(TextBuffer, WritesNothingWithANullPointerOrASizeBelowOne) {
   char bytes[] = "abc";
-  const TextBuffer buffers[] = {TextBuffer(), {nullptr, 10}, {bytes, 0}, {bytes, -1}};
-  for (const TextBuffer& buffer : buffers) {
+  const struct {
+    char* data;
+    int size;
+  } cases[] = {{nullptr, 0}, {nullptr, 10}, {bytes, 0}, {bytes, -1}};
+  for (const auto& arguments : cases) {
+    const TextBuffer buffer(arguments.data, arguments.size);
     EXPECT_FALSE(buffer.IsWritable());
     EXPECT_EQ(buffer.size(), 0);
     EXPECT_EQ(buffer.room(), 0);
@@ -53,6 +57,13 @@ TEST(TextWriter, AFormattedTextIsCutWhereItsBufferEnds) {
   test::ExpectCutToFit("Menu <MAIN>, 255", [](TextBuffer buffer) {
     TextWriter(buffer).Format("Menu <%-.*s>, %i", 4, "MAINMENU", 255);
   });
+}
+
+TEST(TextWriter, AnEmptyFormattedTextAddsNothing) {
+  FixedText<6> text;
+  TextWriter writer(text);
+  writer.Append("ab").Format("%s", "").Append("c");
+  EXPECT_EQ(writer.view(), "abc");
 }
 
 TEST(TextWriter, ContinuesBehindWhatABufferHolds) {

@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <vector>
 
+#include "tests/support/dump.h"
+
 namespace brelt::host {
 
 struct MenuItem {
@@ -66,8 +68,7 @@ void Dump(const host::MenuHandle* menu, int depth, std::string& out) {
     std::snprintf(head, sizeof head, "%*s%04X %d ", depth * 2, "", static_cast<unsigned>(item.flags),
                   static_cast<int>(item.id));
     out += head;
-    for (const char c : item.text)
-      out += c == '\t' ? std::string("\\t") : c == '\n' ? std::string("\\n") : std::string(1, c);
+    out += Visible(item.text);
     out += '\n';
     if (item.popup != nullptr) Dump(item.popup, depth + 1, out);
   }

@@ -7,7 +7,8 @@
 
 namespace brelt::test {
 
-// The menu as lines: nesting by two blanks, then flags, id and text, as in "  0008 101 &Open".
+// The menu as lines: nesting by two blanks, then flags, id (-1 for a popup) and text with its escapes, as in
+// "  0008 101 &Open\tCtrl+O".
 std::string DumpMenu(const host::MenuHandle* menu);
 // The n-th menu to be made from now on (from 0) can't be had; -1 for none.
 void FailMenu(int n);

@@ -1,0 +1,157 @@
+// FontName, FontSize, FontBold and FontItalic, of a window by its handle or, with a null handle, of the
+// printer.
+#include "forms/fonts.h"
+#include "forms/property.h"
+#include "include/brelt.h"
+#include "printing/printer.h"
+
+namespace brelt {
+namespace {
+
+constexpr std::int32_t kKeep = -1;
+
+// What a change asks for; null and -1 keep what is there.
+struct FontChange {
+  const char* face = nullptr;
+  std::int32_t size = kKeep;
+  std::int32_t bold = kKeep;
+  std::int32_t italic = kKeep;
+
+  bool IsNone() const noexcept {
+    return face == nullptr && size == kKeep && bold == kKeep && italic == kKeep;
+  }
+};
+
+HFONT FontOf(HWND window) noexcept {
+  return reinterpret_cast<HFONT>(SendMessageA(window, IsDialog(window) ? XM_GETDRAWFONT : WM_GETFONT, 0, 0));
+}
+
+bool ReadFont(HGDIOBJ font, LOGFONTA& logical) noexcept {
+  logical = {};
+  return font != nullptr && GetObjectA(font, sizeof logical, &logical) != 0;
+}
+
+int ScreenDpi() noexcept {
+  const OwnedDc display(CreateICA("DISPLAY", nullptr, nullptr, nullptr));
+  return display ? GetDeviceCaps(display.get(), LOGPIXELSY) : 0;
+}
+
+host::FontChoice DescribeFont(HFONT font) noexcept {
+  LOGFONTA logical;
+  host::FontChoice choice;
+  if (!ReadFont(font, logical)) return choice;
+  choice.face.Assign(logical.lfFaceName);
+  choice.size =
+      MulDiv(logical.lfHeight < 0 ? -logical.lfHeight : logical.lfHeight, 72, DisplayPixelsPerInch());
+  choice.bold = logical.lfWeight >= FW_BOLD;
+  choice.italic = logical.lfItalic != 0;
+  return choice;
+}
+
+// A damaged font heap gives itself away by these: they guard every change.
+bool IsFontHeapSound() noexcept {
+  if (ScreenDpi() == 0) return false;
+  for (const int stock : {ANSI_FIXED_FONT, ANSI_VAR_FONT, SYSTEM_FONT, DEFAULT_GUI_FONT}) {
+    LOGFONTA logical;
+    if (!ReadFont(GetStockObject(stock), logical)) return false;
+  }
+  return true;
+}
+
+bool HasSoundFace(HWND window) noexcept {
+  const host::FontChoice font = DescribeFont(FontOf(window));
+  const char first = *font.face.c_str();
+  return rc::IsLetter(first) || first == '_' || first == '@';
+}
+
+// Whether a control has its font from the window it is in, which owns it.
+bool SharesFont(HWND window, HFONT font) noexcept {
+  const WindowRow* record = RecordOf(GetParent(window));
+  return record != nullptr && record->font == font;
+}
+
+// Hands a window its new font; the one before goes.
+void ReplaceFont(HWND window, OwnedFont font) noexcept {
+  HFONT before = FontOf(window);
+  const OwnedFont previous(SharesFont(window, before) ? nullptr : before);
+  const auto handle = reinterpret_cast<WPARAM>(font.release());
+  if (IsDialog(window)) {
+    SendMessageA(window, XM_SETDRAWFONT, handle, 0);
+  } else {
+    SendMessageA(window, WM_SETFONT, handle, TRUE);
+  }
+}
+
+std::int32_t ChangeFont(HWND window, const FontChange& change) noexcept {
+  if (change.IsNone()) return RTX_OK;
+  if (!IsWindow(window)) return RTX_NO_WINDOW;
+  if (!IsFontHeapSound() || (IsWindowObject(window) && !HasSoundFace(window))) return RTX_BAD_FONT;
+  const host::FontChoice now = DescribeFont(FontOf(window));
+  OwnedFont font = MakeFont(change.face != nullptr ? change.face : now.face.c_str(),
+                            change.size != kKeep ? change.size : now.size,
+                            change.bold != kKeep ? change.bold != 0 : now.bold,
+                            change.italic != kKeep ? change.italic != 0 : now.italic);
+  if (!font) return RTX_BAD_FONT;
+  ReplaceFont(window, std::move(font));
+  if (IsAnyEditwindow(window)) InvalidateRect(window, nullptr, TRUE);
+  return IsFontHeapSound() && HasSoundFace(window) ? RTX_OK : RTX_BAD_FONT;
+}
+
+// A null handle is the printer. Without a print job it has no font, and none can be set.
+std::int32_t SetFont(HWND window, const FontChange& change) noexcept {
+  if (window != nullptr) return ChangeFont(window, change);
+  return change.IsNone() ? RTX_OK : SetPrinterFont(change.face, change.size, change.bold, change.italic);
+}
+
+host::FontChoice GetFont(HWND window) noexcept {
+  return window != nullptr ? DescribeFont(FontOf(window)) : PrinterFont();
+}
+
+}  // namespace
+}  // namespace brelt
+
+using namespace brelt;
+
+int32_t __stdcall GetFontName(HWND window, char* text, int32_t size) {
+  TraceCall(__func__);
+  rc::TextBuffer(text, size).Assign(GetFont(window).face.view());
+  return RTX_OK;
+}
+
+int32_t __stdcall SetFontName(HWND window, const char* text) {
+  TraceCall(__func__);
+  return SetFont(window, {.face = text});
+}
+
+int32_t __stdcall GetFontSize(HWND window, int32_t* value) {
+  TraceCall(__func__);
+  if (value != nullptr) *value = GetFont(window).size;
+  return RTX_OK;
+}
+
+int32_t __stdcall SetFontSize(HWND window, int32_t value) {
+  TraceCall(__func__);
+  return SetFont(window, {.size = value});
+}
+
+int32_t __stdcall GetFontBold(HWND window, uint8_t* value) {
+  TraceCall(__func__);
+  if (value != nullptr) *value = GetFont(window).bold ? 1 : 0;
+  return RTX_OK;
+}
+
+int32_t __stdcall SetFontBold(HWND window, uint8_t value) {
+  TraceCall(__func__);
+  return SetFont(window, {.bold = value != 0 ? 1 : 0});
+}
+
+int32_t __stdcall GetFontItalic(HWND window, uint8_t* value) {
+  TraceCall(__func__);
+  if (value != nullptr) *value = GetFont(window).italic ? 1 : 0;
+  return RTX_OK;
+}
+
+int32_t __stdcall SetFontItalic(HWND window, uint8_t value) {
+  TraceCall(__func__);
+  return SetFont(window, {.italic = value != 0 ? 1 : 0});
+}
