@@ -25,7 +25,9 @@ void ScanToken(const char* text, std::int32_t& position, TextBuffer token) noexc
 
 // Moves position past white space.
 inline void SkipSpace(const char* text, std::int32_t& position) noexcept {
-  while (IsSpace(text[position])) ++position;
+  std::int32_t at = position;
+  while (IsSpace(text[at])) ++at;
+  position = at;
 }
 
 // Moves position past one optional sign and the digits behind it, perhaps past nothing.
