@@ -1,9 +1,9 @@
 // The procedure of the message, input and list boxes, on boxes that the test makes itself.
 #include <cstring>
 
+#include "tests/win32/support/classes.h"
 #include "tests/win32/support/forms.h"
 #include "tests/win32/support/slots.h"
-#include "tests/win32/support/testclass.h"
 
 namespace brelt::test {
 namespace {
@@ -22,7 +22,8 @@ class BoxTest : public FormTest {
 
   // A box of a kind with a content control and buttons, its slots filled as its caller fills them.
   HWND MakeBox(const TestClass& boxClass, const char* contentClass) {
-    const HWND box = boxClass.MakePopup("Box");
+    const HWND box = CreateWindowExA(0, boxClass.name(), "Box", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr,
+                                     GetModuleHandleA(nullptr), nullptr);
     SetWindowPos(box, nullptr, 30, 40, 200, 150, SWP_NOZORDER | SWP_NOACTIVATE);
     if (contentClass != nullptr) {
       CreateWindowExA(0, contentClass, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP | LBS_NOTIFY, 5, 5, 100, 60,
@@ -62,9 +63,9 @@ class BoxTest : public FormTest {
   RECT rectangle_ = {};
   int32_t selection_ = 0;
   char text_[64];
-  TestClass messageClass_{"MSGBOX.1.3.2207", winobj_proc, kSlotBytes};
-  TestClass inputClass_{"INPUTBOX.1.3.2207", winobj_proc, kSlotBytes};
-  TestClass listClass_{"LISTBOX.1.3.2207", winobj_proc, kSlotBytes};
+  TestClass messageClass_{"MSGBOX.1.3.2207", kSlotBytes, 0, winobj_proc};
+  TestClass inputClass_{"INPUTBOX.1.3.2207", kSlotBytes, 0, winobj_proc};
+  TestClass listClass_{"LISTBOX.1.3.2207", kSlotBytes, 0, winobj_proc};
 };
 
 // ---- Closing ----

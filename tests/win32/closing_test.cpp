@@ -1,11 +1,11 @@
 // The end of a window: asking the program, the close step, and what the window frees.
+#include "tests/win32/support/classes.h"
 #include "tests/win32/support/forms.h"
 #include "tests/win32/support/handles.h"
 #include "tests/win32/support/imports.h"
 #include "tests/win32/support/input.h"
 #include "tests/win32/support/script.h"
 #include "tests/win32/support/slots.h"
-#include "tests/win32/support/testclass.h"
 
 namespace brelt::test {
 namespace {
@@ -269,7 +269,8 @@ TEST_F(CloseTest, ClosingTakesTheTooltipWindowAway) {
   const HWND other = LoadShown("Other", kOneButton);
   // Any window of that class and title stands for it.
   const TestClass tooltips("TOOLTIPS.1.3.2207");
-  const HWND tooltip = tooltips.MakePopup("Tooltip_window");
+  const TestWindow standIn(tooltips.name(), "Tooltip_window");
+  const HWND tooltip = standIn.get();
   ASSERT_TRUE(IsWindow(tooltip));
   Log().onEvent = [](HWND, const Event& event) { return event.event == EV_CLOSE ? 1 : 0; };
   Unload("Other");

@@ -1,9 +1,9 @@
 // What controls and menus tell their window, and which of it the program hears.
+#include "tests/win32/support/classes.h"
 #include "tests/win32/support/forms.h"
 #include "tests/win32/support/imports.h"
 #include "tests/win32/support/input.h"
 #include "tests/win32/support/script.h"
-#include "tests/win32/support/testclass.h"
 
 namespace brelt::test {
 namespace {

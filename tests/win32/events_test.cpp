@@ -10,21 +10,6 @@ constexpr const char* kOneButton = "  PUSHBUTTON \"Go\", 101, 10, 10, 50, 14";
 
 class EventTest : public FormTest {};
 
-TEST_F(EventTest, HaveTheirFixedNumbers) {
-  const std::pair<int, int> kNumbers[] = {
-      {EV_USERBREAK, 0},         {EV_CUSTOM, 32768},        {EV_ACTIVATE, 32769},
-      {EV_CHANGE, 32770},        {EV_MOUSEDOWN, 32771},     {EV_CLICK, 32772},
-      {EV_DBLCLICK, 32773},      {EV_DEACTIVATE, 32774},    {EV_KEYPRESS, 32775},
-      {EV_LOAD, 32776},          {EV_RIGHTDOWN, 32777},     {EV_RESIZE, 32778},
-      {EV_SELCHANGE, 32779},     {EV_TIMER, 32780},         {EV_CLOSE, 32781},
-      {XM_COMMANDCHAR, 1282},    {XM_GETMAXLENGTH, 1283},   {XM_SETMAXLENGTH, 1284},
-      {XM_RECOLOURLINES, 1285},  {XM_OPENANYPOST, 1286},    {XM_GETDRAWFONT, 1287},
-      {XM_SETDRAWFONT, 1288},    {XM_GETARRAYVALUE, 1289},  {XM_SETARRAYVALUE, 1290},
-      {XM_GETARRAYVALUES, 1291}, {XM_SETARRAYVALUES, 1292}, {CM_GETPICTURE, 1296},
-      {CM_SETPICTURE, 1297},     {CM_GETHINT, 1298},        {CM_SETHINT, 1299}};
-  for (const auto& [name, number] : kNumbers) EXPECT_EQ(name, number);
-}
-
 // ---- Events that travel as messages ----
 
 TEST_F(EventTest, CustomMessagesArriveWithTheirArgumentsAndGiveZero) {

@@ -1,10 +1,10 @@
 // The main loop: what it shows, what keeps it alive, what ends it.
 #include <optional>
 
+#include "tests/win32/support/classes.h"
 #include "tests/win32/support/forms.h"
 #include "tests/win32/support/input.h"
 #include "tests/win32/support/script.h"
-#include "tests/win32/support/testclass.h"
 #include "tests/win32/support/trace.h"
 
 namespace brelt::test {
@@ -192,16 +192,12 @@ TEST_F(MainLoopTest, EndsWithZeroAtAQuitMessageWhenOnlyTheExtraWindowIsLeft) {
 // A top-level window of a class of the test's own.
 class ForeignWindow {
  public:
-  ForeignWindow(const char* className, const char* title)
-      : class_(className), window_(class_.MakePopup(title)) {}
-  ForeignWindow(const ForeignWindow&) = delete;
-  ForeignWindow& operator=(const ForeignWindow&) = delete;
-  ~ForeignWindow() { DestroyWindow(window_); }
-  HWND window() const { return window_; }
+  ForeignWindow(const char* className, const char* title) : class_(className), window_(className, title) {}
+  HWND get() const { return window_.get(); }
 
  private:
   TestClass class_;
-  HWND window_;
+  TestWindow window_;
 };
 
 HWND FindInputMethodWindow() { return FindWindowHandle("IME", "Default IME", 1, 1); }
@@ -214,23 +210,21 @@ TEST_F(MainLoopTest, IsNotKeptRunningByInputMethodWindows) {
   const ForeignWindow text("msctfime ui", "m");
   const HWND ime = FindInputMethodWindow();
   ASSERT_TRUE(IsWindow(ime));
-  ASSERT_TRUE(IsWindow(text.window()));
+  ASSERT_TRUE(IsWindow(text.get()));
   Script script;
   script.DestroyAll();
   EXPECT_EQ(RunMainLoop(main), 0);
   EXPECT_TRUE(IsWindow(ime));
-  EXPECT_TRUE(IsWindow(text.window()));
+  EXPECT_TRUE(IsWindow(text.get()));
 }
 
 TEST_F(MainLoopTest, IsKeptRunningByASecondInputMethodWindow) {
   const TestClass text("MSCTFIME UI");
-  const HWND first = text.MakePopup("M");
-  const HWND second = text.MakePopup("M");
+  const TestWindow first("MSCTFIME UI", "M");
+  const TestWindow second("MSCTFIME UI", "M");
   Script script;
   script.Do([] { PostQuitMessage(0); });
   EXPECT_EQ(RunMainLoop(nullptr), 1);
-  DestroyWindow(first);
-  DestroyWindow(second);
 }
 
 TEST_F(MainLoopTest, IsKeptRunningByWindowsThatOnlyLookLikeInputMethodWindows) {

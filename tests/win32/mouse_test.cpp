@@ -1,9 +1,9 @@
 // The pointer's buttons over a form and its controls.
+#include "tests/win32/support/classes.h"
 #include "tests/win32/support/forms.h"
 #include "tests/win32/support/imports.h"
 #include "tests/win32/support/input.h"
 #include "tests/win32/support/script.h"
-#include "tests/win32/support/testclass.h"
 
 namespace brelt::test {
 namespace {
@@ -250,7 +250,7 @@ class CancelTest : public MouseTest {
     while (PeekMessageA(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE)) continue;
   }
 
-  TestClass class_{"CANCELTEST", ListenToCancel};
+  TestClass class_{"CANCELTEST", 0, 0, ListenToCancel};
   HWND window_ = nullptr;
   HWND child_ = nullptr;
 };

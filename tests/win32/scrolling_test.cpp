@@ -1,8 +1,8 @@
 // Scroll bars: the library moves the thumb, the program hears once at the end.
+#include "tests/win32/support/classes.h"
 #include "tests/win32/support/forms.h"
 #include "tests/win32/support/input.h"
 #include "tests/win32/support/script.h"
-#include "tests/win32/support/testclass.h"
 
 namespace brelt::test {
 namespace {
