@@ -417,6 +417,35 @@ TEST_F(ControlIconsTest, AreTakenAsTheirFirstFromTheProgramsInstance) {
   EXPECT_EQ(number, 0u);
 }
 
+// What can't be remembered couldn't be freed.
+TEST_F(ControlIconsTest, AreNoneWhereTheWindowsCantKeepThem) {
+  for (const int failAt : {1, 2}) {
+    SCOPED_TRACE(failAt);
+    const CountedImport<struct Keeping, BOOL, HWND, LPCSTR, HANDLE> keeping("SetPropA", failAt);
+    const LoadResult form = LoadIcon("Picture ICON \"plain.ico\"\n", "ICON Picture, 100, 0, 0, 9, 9");
+    ASSERT_EQ(form.message, "");
+    EXPECT_TRUE(keeping.HasFailed());
+    EXPECT_EQ(IconOf(form.window, 100), nullptr);
+    DestroyLibraryWindows();
+  }
+}
+
+TEST_F(ControlIconsTest, GoWithTheirWindow) {
+  const LoadResult form = LoadIcon("Picture ICON \"plain.ico\"\n",
+                                   "ICON Picture, 100, 0, 0, 9, 9\n  LTEXT \"a\", 101, 0, 0, 9, 9\n"
+                                   "  ICON Picture, 102, 0, 0, 9, 9");
+  ASSERT_EQ(form.message, "");
+  ICONINFO info = {};
+  HICON icons[] = {IconOf(form.window, 100), IconOf(form.window, 102)};
+  for (HICON icon : icons) {
+    ASSERT_TRUE(GetIconInfo(icon, &info));
+    DeleteObject(info.hbmColor);
+    DeleteObject(info.hbmMask);
+  }
+  DestroyLibraryWindows();
+  for (HICON icon : icons) EXPECT_FALSE(GetIconInfo(icon, &info));
+}
+
 TEST_F(ControlIconsTest, AreNoneWithoutAText) {
   const LoadResult form = LoadIcon("Picture ICON \"plain.ico\"\n", "ICON \"\", 100, 0, 0, 9, 9");
   ASSERT_EQ(form.message, "");

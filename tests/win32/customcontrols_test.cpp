@@ -325,6 +325,66 @@ TEST_F(CustomControlsTest, WhoseWindowIsRefusedKeepTheirModuleInTheRow) {
   }
 }
 
+// Nothing keeps a module's code from it.
+TEST_F(CustomControlsTest, ThatDestroyTheirWindowMakeTheLoadFail) {
+  for (const char* className : {"FELLS", "FELLSLATER"}) {
+    SCOPED_TRACE(className);
+    const LoadResult form = LoadDialog(
+        "Main", "  LTEXT \"a\", 99, 0, 0, 9, 9\n" + Control(className) + "  LISTBOX 101, 0, 0, 9, 9\n",
+        "STYLE WS_POPUP\nMENU Bar\n");
+    EXPECT_EQ(form.code, RTX_CLASS);
+    EXPECT_EQ(form.message, "Could not create window Main, class failed to register or not enough resources");
+    EXPECT_EQ(form.window, nullptr);
+    EXPECT_TRUE(LibraryWindows().empty());
+    EXPECT_EQ(Log().All(), "");
+    EXPECT_EQ(GetModuleHandleA((std::string(className) + ".1.3.2207.dll").c_str()), nullptr);
+  }
+}
+
+// The button's code is still on the stack when its click has unloaded its window, and must be there until it
+// is back.
+TEST_F(CustomControlsTest, MayUnloadTheirWindowByTheEventTheyRaise) {
+  const char* module = "BITMAPBUTTON.1.3.2207.dll";
+  Log().onEvent = [](HWND, const Event& event) {
+    if (event.event == EV_CLICK) {
+      Unload("Main");
+      EXPECT_EQ(GetHandle("Main", 0, nullptr), nullptr);
+    }
+    return 0;
+  };
+  struct Case {
+    const char* loop;
+    void (*run)();
+  };
+  const Case cases[] = {{"DoEvents", [] { DoEvents(); }},
+                        {"MainLoop", [] { MainLoop(nullptr, nullptr, nullptr, nullptr); }},
+                        {"Load", [] { LoadDialog("Other", ""); }}};
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.loop);
+    Log().Clear();
+    const LoadResult form = LoadControl("Bitmapbutton");
+    ASSERT_EQ(form.code, RTX_OK);
+    SendDlgItemMessageA(form.window, 100, BM_CLICK, 0, 0);
+    EXPECT_EQ(Log().Of({EV_CLICK}), "EV_CLICK 100 0\n");
+    EXPECT_FALSE(IsWindow(form.window));
+    c.run();
+    EXPECT_EQ(GetModuleHandleA(module), nullptr);
+    DestroyLibraryWindows();
+  }
+}
+
+TEST_F(CustomControlsTest, OfAModalWindowMayEndItByTheEventTheyRaise) {
+  WriteTestFile("Main.rc", "Main DIALOG 0, 0, 99, 99\nBEGIN\n" + Control("Bitmapbutton") + "END\n");
+  Log().onEvent = [](HWND window, const Event& event) {
+    if (event.event == EV_ACTIVATE) PostMessageA(GetDlgItem(window, 100), BM_CLICK, 0, 0);
+    if (event.event == EV_CLICK) Unload("Main");
+    return 0;
+  };
+  EXPECT_EQ(Show(GetModuleHandleA(nullptr), "Main", "Main.rc", RecordEvent, nullptr, 1, nullptr), RTX_OK);
+  EXPECT_EQ(Log().Count(EV_CLICK), 1);
+  EXPECT_EQ(GetModuleHandleA("BITMAPBUTTON.1.3.2207.dll"), nullptr);
+}
+
 TEST_F(CustomControlsTest, AheadOfAFailureLetGoOfTheirModules) {
   const LoadResult form =
       LoadDialog("Main", "  CONTROL \"\", 99, \"Shape\", 0, 0, 0, 9, 9\n" + Control("MISSING"));

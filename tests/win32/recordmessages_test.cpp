@@ -85,6 +85,17 @@ TEST_F(RecordMessageTest, DefaultButtonIsToldWithTheMarkOfAnAnswer) {
   EXPECT_EQ(SendMessageA(other.window, DM_GETDEFID, 0, 0), 0);
 }
 
+TEST_F(RecordMessageTest, FlagsAreGivenWholeAndTheirLow16BitsAreSet) {
+  SetWindowLongA(window_, SLOT_FLAGS * 4, static_cast<LONG>(WF_CANVAS | WF_CANVASYUP | 0x1234));
+  int32_t flags = 0;
+  EXPECT_EQ(GetFlags("Main", &flags), RTX_OK);
+  EXPECT_EQ(flags, 0xC1234);
+  EXPECT_EQ(SetFlags("Main", -1), RTX_OK);
+  EXPECT_EQ(GetWindowLongA(window_, SLOT_FLAGS * 4), 0xCFFFF);
+  EXPECT_EQ(SetFlags("Main", 0x70000), RTX_OK);
+  EXPECT_EQ(GetWindowLongA(window_, SLOT_FLAGS * 4), 0xC0000);
+}
+
 TEST_F(RecordMessageTest, ArrayValuesAreFoundByKeyWithoutCase) {
   EXPECT_EQ(Send(XM_GETARRAYVALUES, 0, 0), 0);
   EXPECT_EQ(Value("one"), "<none>");
