@@ -54,7 +54,7 @@ void PrintGoal(const std::string& what, double value, Goal kind, double goal) {
 }
 
 void Keep(long value) {
-  static volatile long kept;
+  [[maybe_unused]] static volatile long kept;
   kept = value;
 }
 

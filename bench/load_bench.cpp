@@ -20,6 +20,8 @@ HINSTANCE Program() { return GetModuleHandleA(nullptr); }
 // ---- The form ----
 
 constexpr const char* kFormName = "Form";
+// No inner window of a control has an id from here on.
+constexpr UINT_PTR kFirstId = 20000;
 
 // Every kind of control that forms are mostly made of.
 std::string FormText(int controls) {
@@ -28,7 +30,7 @@ std::string FormText(int controls) {
       "RADIOBUTTON \"A choice\",", "COMBOBOX", "LTEXT \"A third\",", "LISTBOX",  "PUSHBUTTON \"A button\","};
   std::string text = std::string(kFormName) + " DIALOG 0, 0, 300, 300\nBEGIN\n";
   for (int i = 0; i < controls; ++i) {
-    text += std::string("  ") + kStatements[i % 10] + " " + std::to_string(100 + i) + ", " +
+    text += std::string("  ") + kStatements[i % 10] + " " + std::to_string(kFirstId + unsigned(i)) + ", " +
             std::to_string(i % 16 * 18) + ", " + std::to_string(i / 16 * 18) + ", 16, 14\n";
   }
   return text + "END\n";
@@ -42,42 +44,59 @@ HWND LoadForm(const char* file) {
 
 // ---- The same windows, made by the platform alone ----
 
+// What a window was asked for with. Asking for what it then became would be less work: a list box, for one,
+// makes its height fit its lines.
 struct Window {
   std::string className;
   std::string text;
   DWORD style;
   DWORD exStyle;
-  RECT place;
+  int x, y, width, height;
   HMENU id;
 };
 
-Window Describe(HWND window, HWND parent) {
+std::vector<Window> created;
+
+LRESULT CALLBACK RecordCreation(int code, WPARAM wParam, LPARAM lParam) {
   char className[64] = "";
-  char text[256] = "";
-  GetClassNameA(window, className, sizeof className);
-  GetWindowTextA(window, text, sizeof text);
-  RECT place = {};
-  GetWindowRect(window, &place);
-  if (parent != nullptr) MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
-  return {className,
-          text,
-          static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE)),
-          static_cast<DWORD>(GetWindowLongA(window, GWL_EXSTYLE)),
-          place,
-          reinterpret_cast<HMENU>(parent != nullptr ? GetWindowLongA(window, GWL_ID) : 0)};
+  GetClassNameA(reinterpret_cast<HWND>(wParam), className, sizeof className);
+  if (code == HCBT_CREATEWND) {
+    const CREATESTRUCTA& made = *reinterpret_cast<const CBT_CREATEWNDA*>(lParam)->lpcs;
+    created.push_back({className, made.lpszName != nullptr ? made.lpszName : "",
+                       static_cast<DWORD>(made.style), made.dwExStyle, made.x, made.y, made.cx, made.cy,
+                       made.hMenu});
+  }
+  return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-// A window and its controls as they are, to be made again.
+// A window and its controls as a load makes them, to be made again.
 class RawForm {
  public:
-  explicit RawForm(HWND window) : form_(Describe(window, nullptr)) {
-    form_.className = kClassName;
-    for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
-      controls_.push_back(Describe(child, window));
-    }
+  RawForm(const char* file, int controls) {
+    created.clear();
+    HHOOK hook = SetWindowsHookExA(WH_CBT, RecordCreation, nullptr, GetCurrentThreadId());
+    HWND window = LoadForm(file);
+    UnhookWindowsHookEx(hook);
     LOGFONTA font = {};
     GetObjectA(reinterpret_cast<HFONT>(SendMessageA(window, WM_GETFONT, 0, 0)), sizeof font, &font);
     font_ = CreateFontIndirectA(&font);
+    form_ = created.front();
+    form_.className = kClassName;
+    // Controls that make windows of their own are among them, and so is the platform's for input.
+    for (const Window& made : created) {
+      if ((made.style & WS_CHILD) != 0 &&
+          reinterpret_cast<UINT_PTR>(made.id) - kFirstId < UINT_PTR(controls)) {
+        controls_.push_back(made);
+      }
+    }
+    if (controls_.size() != std::size_t(controls)) std::abort();
+    RECT place = {};
+    GetWindowRect(window, &place);
+    form_.x = place.left;
+    form_.y = place.top;
+    form_.width = place.right - place.left;
+    form_.height = place.bottom - place.top;
+    DestroyWindow(window);
   }
   RawForm(const RawForm&) = delete;
   RawForm& operator=(const RawForm&) = delete;
@@ -105,10 +124,9 @@ class RawForm {
   static constexpr const char* kClassName = "bench.raw";
 
   static HWND Create(const Window& window, HWND parent) {
-    const RECT& place = window.place;
-    HWND made = CreateWindowExA(window.exStyle, window.className.c_str(), window.text.c_str(), window.style,
-                                place.left, place.top, place.right - place.left, place.bottom - place.top,
-                                parent, window.id, Program(), nullptr);
+    HWND made =
+        CreateWindowExA(window.exStyle, window.className.c_str(), window.text.c_str(), window.style, window.x,
+                        window.y, window.width, window.height, parent, window.id, Program(), nullptr);
     if (made == nullptr) std::abort();
     return made;
   }
@@ -125,10 +143,8 @@ struct Comparison {
 Comparison BenchForm(int controls) {
   const std::string file = "form" + std::to_string(controls) + ".rc";
   std::ofstream(file) << FormText(controls);
-  HWND window = LoadForm(file.c_str());
-  const RawForm raw(window);
-  DestroyWindow(window);
-
+  const RawForm raw(file.c_str(), controls);
+  HWND window = nullptr;
   const auto makeRaw = [&] { window = raw.Make(); };
   const auto load = [&] { window = LoadForm(file.c_str()); };
   const auto destroy = [&] { DestroyWindow(window); };
