@@ -6,6 +6,7 @@
 #include "frame/winobject.h"
 #include "tests/support/guarded.h"
 #include "tests/win32/support/forms.h"
+#include "tests/win32/support/imports.h"
 #include "tests/win32/support/spy.h"
 
 namespace brelt::test {
@@ -209,10 +210,50 @@ TEST_F(LoadTest, TakesTheFirstDefaultButtonInTheirOrder) {
   }
 }
 
+// The window is there for whoever looks for it while its controls are made, and nothing of its size is told
+// yet.
+TEST_F(LoadTest, FindsTheWindowByItsNameWhileItLoads) {
+  static HWND found;
+  static int32_t loaded;
+  found = nullptr;
+  struct Hook {
+    static LRESULT CALLBACK Look(int code, WPARAM wParam, LPARAM lParam) {
+      if (code == HCBT_CREATEWND && found == nullptr) {
+        found = GetHandle("Main", 0, nullptr);
+        if (found != nullptr) loaded = RecordOf(found)->loaded;
+      }
+      return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+  };
+  HHOOK hook = SetWindowsHookExA(WH_CBT, Hook::Look, nullptr, GetCurrentThreadId());
+  const LoadResult form = LoadDialog("Main", "  LTEXT \"a\", 100, 0, 0, 9, 9");
+  UnhookWindowsHookEx(hook);
+  ASSERT_EQ(form.code, RTX_OK);
+  EXPECT_EQ(found, form.window);
+  EXPECT_EQ(loaded, 0);
+}
+
 // ---- Owners ----
 
 constexpr const char* kOverlapped = "STYLE WS_CAPTION | WS_SYSMENU\n";
 constexpr const char* kPopup = "STYLE WS_POPUP | WS_CAPTION\n";
+
+HWND askedOwner;
+
+HWND WINAPI RecordOwner(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width,
+                        int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID data) {
+  askedOwner = parent;
+  return CreateWindowExA(exStyle, className, text, style, x, y, width, height, parent, menu, instance, data);
+}
+
+TEST_F(LoadTest, GivesTheDesktopForAnOwnerWhereThereIsNoOther) {
+  const ReplacedImport create("CreateWindowExA", reinterpret_cast<void*>(&RecordOwner));
+  for (const char* style : {kPopup, kOverlapped}) {
+    ASSERT_EQ(LoadDialog("Main", "", style).code, RTX_OK);
+    EXPECT_EQ(askedOwner, GetDesktopWindow());
+    DestroyLibraryWindows();
+  }
+}
 
 TEST_F(LoadTest, OwnsPopupsByTheFirstOverlappedWindow) {
   const LoadResult early = LoadDialog("Early", "", kPopup);
@@ -357,6 +398,19 @@ TEST_F(LoadTest, GivesTheWindowItsMenuAndTheTableOfItsKeys) {
     EXPECT_EQ(table[row].Key, expected[row].Key);
     EXPECT_EQ(table[row].Command, expected[row].Command);
   }
+}
+
+TEST_F(LoadTest, DrawsTheMenuBarForTheMenuAndForTheSystemMenu) {
+  const CountedImport<struct Drawing, BOOL, HWND> drawing("DrawMenuBar");
+  ASSERT_EQ(LoadDialog("Main", "").code, RTX_OK);
+  EXPECT_EQ(drawing.calls(), 1);
+  DestroyLibraryWindows();
+  ASSERT_EQ(
+      LoadText("Main",
+               "Main DIALOG 0, 0, 9, 9\nMENU Bar\nBEGIN\nEND\nBar MENU\nBEGIN\n  MENUITEM \"a\", 1\nEND\n")
+          .code,
+      RTX_OK);
+  EXPECT_EQ(drawing.calls(), 3);
 }
 
 TEST_F(LoadTest, TrimsTheSystemMenu) {

@@ -1,6 +1,7 @@
 // Where a loaded window stands, and the fonts that its units come from.
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "frame/winobject.h"
 #include "tests/win32/support/forms.h"
@@ -96,6 +97,38 @@ TEST_F(LoadPlaceTest, IsTheMiddleOfTheScreenWithDsCenterWhateverTheCoordinates) 
     GetClientRect(form.window, &client);
     EXPECT_EQ(client.right, units.width * 101 / 4);
     EXPECT_EQ(client.bottom, units.height * 103 / 8);
+    DestroyLibraryWindows();
+  }
+}
+
+struct Move {
+  POINT place;
+  BOOL repaint;
+};
+std::vector<Move> moves;
+
+BOOL WINAPI RecordMove(HWND window, int x, int y, int width, int height, BOOL repaint) {
+  moves.push_back({{x, y}, repaint});
+  return MoveWindow(window, x, y, width, height, repaint);
+}
+
+TEST_F(LoadPlaceTest, IsTakenByMovesThatAskForNoRepaint) {
+  const ReplacedImport move("MoveWindow", reinterpret_cast<void*>(&RecordMove));
+  for (const bool centred : {false, true}) {
+    SCOPED_TRACE(centred);
+    moves.clear();
+    const LoadResult form =
+        LoadAt("40, 48, 101, 103", centred ? "STYLE WS_POPUP | DS_CENTER\n" : "STYLE WS_POPUP\n");
+    ASSERT_EQ(form.code, RTX_OK);
+    const RECT place = PlaceOf(form.window);
+    ASSERT_EQ(moves.size(), centred ? 2u : 1u);
+    if (centred) {
+      EXPECT_EQ(moves.front().place.x, 0);
+      EXPECT_EQ(moves.front().place.y, 0);
+    }
+    EXPECT_EQ(moves.back().place.x, place.left);
+    EXPECT_EQ(moves.back().place.y, place.top);
+    for (const Move& made : moves) EXPECT_FALSE(made.repaint);
     DestroyLibraryWindows();
   }
 }

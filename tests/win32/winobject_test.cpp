@@ -312,6 +312,60 @@ TEST(EnumerationCallbacks, EndTheEnumerationWithoutAContext) {
   EXPECT_FALSE(Enum_GetEnabledWindows(window.get(), 0));
 }
 
+// ---- The three classes ----
+
+int32_t __stdcall SomeFunction(HWND, uint32_t, uint32_t, int32_t) { return 0; }
+
+TEST(WindowObjects, OfEachOfTheThreeClassesHaveTheirKindAndFunction) {
+  struct Case {
+    const char* className;
+    const char* kind;
+    bool isObject;
+  };
+  const Case cases[] = {{"Editwindow.1.3.2207", "Editwindow", true},
+                        {"RICHEDITWINDOW.1.3.2207", "Richeditwindow", true},
+                        {"dialog.1.3.2207", "Dialog", true},
+                        {"MSGBOX.1.3.2207", "", false}};
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.className);
+    UnregisterClassA(c.className, GetModuleHandleA(nullptr));
+    const TestClass own(c.className, 40);
+    const NamedWindow window(own, "Main");
+    WritePointer(window.get(), SLOT_FUNCPTR, reinterpret_cast<void*>(&SomeFunction));
+    char kind[41] = "unset";
+    GetTypeof("main", 0, kind, sizeof kind);
+    EXPECT_STREQ(kind, c.kind);
+    EXPECT_EQ(GetFuncptr("main", 0), c.isObject ? SomeFunction : nullptr);
+    EXPECT_EQ(IsWindowObject(window.get()), c.isObject);
+  }
+}
+
+TEST(WindowObjects, OfEachOfTheThreeClassesCanOwnOthersWhenTheyAreOverlapped) {
+  struct Case {
+    const char* className;
+    DWORD style;
+    bool owns;
+  };
+  const Case cases[] = {
+      {"Dialog.1.3.2207", WS_OVERLAPPED, true},      {"Editwindow.1.3.2207", WS_OVERLAPPED, true},
+      {"Richeditwindow.1.3.2207", WS_CAPTION, true}, {"Dialog.1.3.2207", WS_POPUP, false},
+      {"Editwindow.1.3.2207", WS_POPUP, false},      {"MSGBOX.1.3.2207", WS_OVERLAPPED, false}};
+  for (const Case& c : cases) {
+    SCOPED_TRACE(::testing::Message() << c.className << " " << c.style);
+    UnregisterClassA(c.className, GetModuleHandleA(nullptr));
+    const TestClass own(c.className, 40);
+    const TestWindow window(own.name(), "", c.style);
+    HWND found = nullptr;
+    EXPECT_EQ(Enum_FindOverlappedWindow(window.get(), reinterpret_cast<LPARAM>(&found)), !c.owns);
+    EXPECT_EQ(found, c.owns ? window.get() : nullptr);
+  }
+  const TestClass own("Dialog.1.3.2207", 40);
+  const TestWindow parent("STATIC");
+  const TestWindow child(own.name(), "", WS_CHILD, parent.get());
+  HWND found = nullptr;
+  EXPECT_TRUE(Enum_FindOverlappedWindow(child.get(), reinterpret_cast<LPARAM>(&found)));
+}
+
 // ---- Rows ----
 
 class RowTest : public FormTest {};
