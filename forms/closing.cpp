@@ -1,5 +1,7 @@
 #include "forms/closing.h"
 
+#include <algorithm>
+
 #include "forms/controls.h"
 #include "forms/events.h"
 #include "forms/handlers.h"
@@ -25,6 +27,10 @@ void ReleaseSlot(HWND window, Slot slot) noexcept {
   if (void* block = TakePointer<void>(window, slot); block != nullptr) host::Release(block);
 }
 
+bool HasModules(const WindowRow* record, int rows) noexcept {
+  return std::any_of(record, record + rows, [](const WindowRow& row) { return row.module != nullptr; });
+}
+
 // While a record waits for its modules to be freed, its first row has no other use.
 struct Departed {
   WindowRecord record;
@@ -40,6 +46,7 @@ void ReleaseRecord(HWND window) noexcept {
   if (record == nullptr) return;
   const OwnedFont font(record->font);
   const OwnedFont drawFont(record->drawFont);
+  if (!HasModules(record, rows)) return host::Release(record);
   const Departed departed{record};
   departed.rows() = rows;
   departed.SetNext(std::exchange(Library.DepartedRecords, record));
