@@ -1,11 +1,14 @@
 #include "forms/closing.h"
 
+#include <algorithm>
+
 #include "forms/controls.h"
 #include "forms/events.h"
 #include "forms/handlers.h"
 #include "forms/modal.h"
 #include "forms/tooltip.h"
 #include "frame/host.h"
+#include "frame/library.h"
 #include "frame/owners.h"
 #include "frame/winobject.h"
 
@@ -24,17 +27,43 @@ void ReleaseSlot(HWND window, Slot slot) noexcept {
   if (void* block = TakePointer<void>(window, slot); block != nullptr) host::Release(block);
 }
 
+bool HasModules(const WindowRow* record, int rows) noexcept {
+  return std::any_of(record, record + rows, [](const WindowRow& row) { return row.module != nullptr; });
+}
+
+// While a record waits for its modules to be freed, its first row has no other use.
+struct Departed {
+  WindowRecord record;
+
+  int& rows() const noexcept { return record->maxLength; }
+  WindowRecord next() const noexcept { return reinterpret_cast<WindowRecord>(record->handle); }
+  void SetNext(WindowRecord other) const noexcept { record->handle = reinterpret_cast<HWND>(other); }
+};
+
 void ReleaseRecord(HWND window) noexcept {
-  WindowRecord record = RecordOf(window);
-  if (record == nullptr) return;
-  const OwnedFont font(std::exchange(record->font, nullptr));
-  const OwnedFont drawFont(std::exchange(record->drawFont, nullptr));
   const int rows = IsDialog(window) ? kDialogRows : 1;
-  for (int row = 0; row < rows; ++row) const OwnedModule module(record[row].module);
-  ReleaseSlot(window, SLOT_RECORD);
+  WindowRecord record = TakePointer<WindowRow>(window, SLOT_RECORD);
+  if (record == nullptr) return;
+  const OwnedFont font(record->font);
+  const OwnedFont drawFont(record->drawFont);
+  if (!HasModules(record, rows)) return host::Release(record);
+  const Departed departed{record};
+  departed.rows() = rows;
+  departed.SetNext(std::exchange(Library.DepartedRecords, record));
+  ReleaseDepartedModules();
 }
 
 }  // namespace
+
+void ReleaseDepartedModules() noexcept {
+  if (Library.CallOutDepth > 0) return;
+  while (Library.DepartedRecords != nullptr) {
+    const Departed departed{Library.DepartedRecords};
+    Library.DepartedRecords = departed.next();
+    for (int row = 0; row < departed.rows(); ++row) const OwnedModule module(departed.record[row].module);
+    host::Release(departed.record);
+  }
+}
 
 void WakeMainLoop() noexcept { PostThreadMessageA(GetCurrentThreadId(), WM_NULL, 0, 0); }
 

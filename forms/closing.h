@@ -9,6 +9,11 @@ namespace brelt {
 // main loop, so that it sees that a window went.
 void CloseWindowObject(HWND window) noexcept;
 
+// Frees the modules of windows that went while other people's code was running: a button of such a module may
+// have been what unloaded its window, and its code had to be there until it came back. Does nothing while
+// such code still runs.
+void ReleaseDepartedModules() noexcept;
+
 // Posts a message that makes a waiting loop look again.
 void WakeMainLoop() noexcept;
 

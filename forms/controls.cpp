@@ -19,7 +19,7 @@ using rc::FixedText;
 using rc::ResourceRecord;
 
 constexpr std::string_view kStandardClasses = "BUTTON,COMBOBOX,EDIT,LISTBOX,SCROLLBAR,STATIC";
-// Marks an icon that the library loaded for a control, on the control.
+// On a control, the icon that the library loaded for it; on its window, a mark that there are such controls.
 constexpr const char* kIconProperty = "brelt.icon";
 constexpr std::uint32_t kIconType = 3;
 // Longest window class name, version and release included.
@@ -46,6 +46,11 @@ std::string_view TrimBlanks(std::string_view text) noexcept {
   return text;
 }
 
+// A list that was just made is empty without being told.
+void FillNewList(HWND control, const ResourceRecord& record) noexcept {
+  if (!record.text.IsEmpty()) FillListItems(control, record.text.c_str());
+}
+
 // One control on its way from a record to a window.
 class ControlMaker {
  public:
@@ -57,7 +62,7 @@ class ControlMaker {
         rcFolder_(rc::SplitPath(source.rcPath).Folder()),
         failure_(failure) {}
 
-  void Make(const ResourceRecord& element, WindowRow& row) noexcept {
+  void Make(const ResourceRecord& element, int number) noexcept {
     ResourceRecord record = element;
     OwnedIcon icon;
     if (record.className.view() == "STATIC" && (record.style & 0xF) == kIconType)
@@ -68,6 +73,9 @@ class ControlMaker {
     if (!failure_) module = SettleClass(record, windowClass);
     if (failure_) return;
     HWND control = Create(record, windowClass, id);
+    WindowRecord rows = RecordOf(window_);
+    if (rows == nullptr) return;
+    WindowRow& row = rows[number];
     row.name.Assign(record.name.view());
     row.id = id;
     row.handle = control;
@@ -84,6 +92,7 @@ class ControlMaker {
   OwnedModule LoadModule(const ResourceRecord& record, const char* moduleFile) noexcept;
   void QualifyPicture(ResourceRecord& record) noexcept;
   HWND Create(const ResourceRecord& record, const ClassName& windowClass, std::int32_t id) noexcept;
+  void GiveIcon(HWND control, OwnedIcon icon) noexcept;
   void Furnish(HWND control, const ResourceRecord& record, OwnedIcon icon) noexcept;
 
   const char* DialogName() const noexcept { return source_.records[0]->name.c_str(); }
@@ -169,18 +178,16 @@ OwnedModule ControlMaker::SettleClass(ResourceRecord& record, ClassName& windowC
 
 // Looks in the program's folder and then in the Windows folder.
 OwnedModule ControlMaker::LoadModule(const ResourceRecord& record, const char* moduleFile) noexcept {
-  constexpr UINT_PTR kLowestModule = 33;  // lower results are error numbers on old systems
-  host::Path path;
-  path.Format("%s%s", source_.programFolder, moduleFile);
-  HMODULE module = LoadLibraryA(path.c_str());
-  if (module == nullptr) {
-    host::Path folder;
-    GetWindowsDirectoryA(folder.data(), static_cast<UINT>(folder.buffer().size()));
-    if (!folder.view().ends_with('\\')) folder.Append("\\");
-    path.Format("%s%s", folder.c_str(), moduleFile);
-    module = LoadLibraryA(path.c_str());
+  host::Path windowsFolder;
+  GetWindowsDirectoryA(windowsFolder.data(), static_cast<UINT>(windowsFolder.buffer().size()));
+  if (!windowsFolder.view().ends_with('\\')) windowsFolder.Append("\\");
+  for (const char* folder : {source_.programFolder, windowsFolder.c_str()}) {
+    constexpr UINT_PTR kLowestModule = 33;  // lower results are error numbers on old systems
+    host::Path path;
+    path.Format("%s%s", folder, moduleFile);
+    HMODULE module = LoadLibraryA(path.c_str());
+    if (reinterpret_cast<UINT_PTR>(module) >= kLowestModule) return OwnedModule(module);
   }
-  if (reinterpret_cast<UINT_PTR>(module) >= kLowestModule) return OwnedModule(module);
   failure_.Format(RTX_CONTROL_DLL, "Dialog <%-.*s>, Control Type <%-.*s>, Cannot load DLL <%-.*s>",
                   rc::kNameLength, DialogName(), rc::kNameLength, record.className.c_str(),
                   rc::kShownPathLength, OrQuestionMark(moduleFile));
@@ -214,20 +221,27 @@ HWND ControlMaker::Create(const ResourceRecord& record, const ClassName& windowC
                          window_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance_, nullptr);
 }
 
+// The control only shows the icon. One that can't be remembered couldn't be freed, so the control doesn't get
+// it.
+void ControlMaker::GiveIcon(HWND control, OwnedIcon icon) noexcept {
+  const bool remembered =
+      icon && SetPropA(window_, kIconProperty, window_) && SetPropA(control, kIconProperty, icon.get());
+  HICON shown = remembered ? icon.release() : nullptr;
+  SendMessageA(control, STM_SETICON, reinterpret_cast<WPARAM>(shown), 0);
+}
+
 void ControlMaker::Furnish(HWND control, const ResourceRecord& record, OwnedIcon icon) noexcept {
   const std::string_view className = record.className.view();
   if (className == "STATIC") {
-    if ((record.style & 0xF) != kIconType) return;
-    SendMessageA(control, STM_SETICON, reinterpret_cast<WPARAM>(icon.get()), 0);
-    if (icon && SetPropA(control, kIconProperty, icon.get())) icon.release();
+    if ((record.style & 0xF) == kIconType) GiveIcon(control, std::move(icon));
   } else if (className == "LISTBOX") {
-    FillListItems(control, record.text.c_str());
+    FillNewList(control, record);
     if ((record.style & WS_HSCROLL) != 0) {
       const unsigned extent = static_cast<unsigned>(source_.units.width) << 10 | 30;
       SendMessageA(control, LB_SETHORIZONTALEXTENT, extent, 0);
     }
   } else if (className == "COMBOBOX") {
-    FillListItems(control, record.text.c_str());
+    FillNewList(control, record);
   } else if (className == "SCROLLBAR") {
     SetScrollRange(control, SB_CTL, 0, 100, FALSE);
   } else if (ClassMatches(control, "Bitmapbutton.*")) {
@@ -238,17 +252,18 @@ void ControlMaker::Furnish(HWND control, const ResourceRecord& record, OwnedIcon
 
 }  // namespace
 
-void CreateControls(const ControlSource& source, HWND window, WindowRecord record,
-                    Failure& failure) noexcept {
+void CreateControls(const ControlSource& source, HWND window, Failure& failure) noexcept {
+  const CallOut callOut;  // each control is made by its module's code
   ControlMaker maker(source, window, failure);
-  for (int i = 1; i < rc::kRecordCount && !failure; ++i) {
+  for (int i = 1; i < rc::kRecordCount && !failure && RecordOf(window) != nullptr; ++i) {
     const ResourceRecord& element = *source.records[i];
     if (element.name.IsEmpty()) return;
-    maker.Make(element, record[i]);
+    maker.Make(element, i);
   }
 }
 
 void ReleaseControlIcons(HWND window) noexcept {
+  if (RemovePropA(window, kIconProperty) == nullptr) return;
   ForEachChild(window, [](HWND child) {
     const OwnedIcon icon(static_cast<HICON>(RemovePropA(child, kIconProperty)));
   });

@@ -19,10 +19,11 @@ struct ControlSource {
   BaseUnits units;
 };
 
-// Makes one child and one row of the record for each element from 1 on. The window must have its control
-// font. The first failure ends it and leaves the controls made so far, which go with the window.
-void CreateControls(const ControlSource& source, HWND window, WindowRecord record,
-                    rc::Failure& failure) noexcept;
+// Makes one child and one row of the window's record for each element from 1 on. The window must have its
+// record and control font. The first failure ends it and leaves the controls made so far, which go with the
+// window. So does a control whose code destroys the window: it is for the caller to see whether that still
+// is.
+void CreateControls(const ControlSource& source, HWND window, rc::Failure& failure) noexcept;
 
 // Lets go of what the library loaded for the controls of a window that is going: the icons, which no control
 // frees.

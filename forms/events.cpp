@@ -1,5 +1,6 @@
 #include "forms/events.h"
 
+#include "frame/library.h"
 #include "frame/winobject.h"
 #include "include/brelt.h"
 
@@ -27,6 +28,7 @@ std::int32_t RaiseEvent(HWND window, std::uint32_t event, std::uint32_t wParam,
                         std::int32_t lParam) noexcept {
   const auto function = reinterpret_cast<EventFunction>(ReadSlot(window, SLOT_FUNCPTR));
   if (function == nullptr) return 0;
+  const CallOut callOut;
   if (LeavesCursor(event)) return function(window, event, wParam, lParam);
   SetCursor(LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_WAIT)));
   const std::int32_t result = function(window, event, wParam, lParam);

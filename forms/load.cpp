@@ -1,5 +1,6 @@
 #include "forms/load.h"
 
+#include "forms/closing.h"
 #include "forms/topwindow.h"
 #include "forms/windowclass.h"
 #include "frame/owners.h"
@@ -61,9 +62,9 @@ void GiveMenu(HWND window, const LoadRequest& request, const char* path, const c
   WritePointer(window, SLOT_ACCELTABLE, keys.release());
   OwnedMenu previous(GetMenu(window));
   SetMenu(window, nullptr);
-  host::MenuHandle* menu = rc::BuildMenuFromFile(path, menuName, symbols, table, failure);
+  OwnedMenu menu(reinterpret_cast<HMENU>(rc::BuildMenuFromFile(path, menuName, symbols, table, failure)));
   if (failure) return;
-  SetMenu(window, reinterpret_cast<HMENU>(menu));
+  if (SetMenu(window, menu.get())) menu.release();
   DrawMenuBar(window);
 }
 
@@ -110,10 +111,11 @@ HWND MakeWindow(const LoadRequest& request, Failure& failure) noexcept {
 }  // namespace
 
 void LoadWindow(const LoadRequest& request, HWND* window, Failure& failure) noexcept {
+  ReleaseDepartedModules();
   if (ResolveName(request.name) != nullptr) return;
   if (rc::IsEmpty(request.name)) return failure.Set(RTX_NO_DIALOG, "Window object name is invalid.");
   HWND made = MakeWindow(request, failure);
-  if (made == nullptr) return;
+  if (made == nullptr) return ReleaseDepartedModules();
   if (window != nullptr) *window = made;
   RecordOf(made)->loaded = 1;
   SendMessageA(made, EV_LOAD, 0, 0);

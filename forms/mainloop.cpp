@@ -1,5 +1,6 @@
 #include "forms/mainloop.h"
 
+#include "forms/closing.h"
 #include "forms/focus.h"
 #include "forms/keys.h"
 #include "forms/modal.h"
@@ -63,10 +64,16 @@ void DeliverMessage(HWND keyboardWindow, MSG& message) noexcept {
   DispatchMessageA(&message);
 }
 
+// Waits for a message; false for WM_QUIT.
+bool NextMessage(MSG& message) noexcept {
+  ReleaseDepartedModules();
+  return GetMessageA(&message, nullptr, 0, 0) != 0;
+}
+
 int32_t RunMainLoop(HWND mainWindow, const ExcludeTable& exclude) noexcept {
   TraceCall("MainLoop:Calling main message loop");
   MSG message;
-  while (WindowsRemain(exclude) != 0 && GetMessageA(&message, nullptr, 0, 0) != 0) {
+  while (WindowsRemain(exclude) != 0 && NextMessage(message)) {
     if (!IsWindow(mainWindow)) mainWindow = nullptr;
     HWND active = GetActiveWindow();
     if (KeyPreview(active, message)) continue;
@@ -74,6 +81,7 @@ int32_t RunMainLoop(HWND mainWindow, const ExcludeTable& exclude) noexcept {
     if (MenuKeys(mainWindow, KeyTableOf(mainWindow), message)) continue;
     DeliverMessage(active, message);
   }
+  ReleaseDepartedModules();
   TraceCall("MainLoop:Ending main message loop");
   return WindowsRemain(exclude);
 }
@@ -83,10 +91,11 @@ int32_t RunMainLoop(HWND mainWindow, const ExcludeTable& exclude) noexcept {
 // Unlike in the main loop both filters work on the modal window, whichever is active.
 void RunModalLoop(HWND window) noexcept {
   MSG message;
-  while (IsWindow(window) && IsWindowVisible(window) && GetMessageA(&message, nullptr, 0, 0) != 0) {
+  while (IsWindow(window) && IsWindowVisible(window) && NextMessage(message)) {
     if (KeyPreview(window, message) || MenuKeys(window, KeyTableOf(window), message)) continue;
     DeliverMessage(window, message);
   }
+  ReleaseDepartedModules();
 }
 
 }  // namespace brelt
@@ -120,5 +129,6 @@ int32_t __stdcall DoEvents(void) {
     TranslateMessage(&message);
     DispatchMessageA(&message);
   }
+  ReleaseDepartedModules();
   return 0;
 }

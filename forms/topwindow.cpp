@@ -40,6 +40,17 @@ std::uint32_t EditFlags(std::uint32_t flags) noexcept {
   return (flags & EWS_READONLY) != 0 ? flags & ~kWriting : flags;
 }
 
+// The id of the first default button; 0 if there is none.
+std::int32_t DefaultButtonId(const WindowRow* record) noexcept {
+  // The rows stand in the children's order, and to go from child to child costs more than making some of
+  // them.
+  for (int row = 1; row < kDialogRows && !record[row].name.IsEmpty(); ++row) {
+    HWND control = record[row].handle;
+    if (ClassMatches(control, "BUTTON") && TypeBitsOf(control) == BS_DEFPUSHBUTTON) return record[row].id;
+  }
+  return 0;
+}
+
 class TopWindowMaker {
  public:
   TopWindowMaker(const WindowSource& source, Failure& failure) noexcept
@@ -70,11 +81,16 @@ class TopWindowMaker {
       FillDialog(window.get(), std::move(font));
     }
     PlaceWindow(window.get());
+    if (!IsWindow(window.get())) ReportNoWindow();  // the code of a control may have taken it along
     return window.release();
   }
 
  private:
   bool HasMenu() const noexcept { return !element_.menuName.IsEmpty(); }
+  void ReportNoWindow() noexcept {
+    failure_.Format(RTX_CLASS, "Could not create window %s, class failed to register or not enough resources",
+                    source_.name);
+  }
 
   HWND CreateFrame() noexcept;
   bool GiveRecord(HWND window) noexcept;
@@ -104,8 +120,7 @@ HWND TopWindowMaker::CreateFrame() noexcept {
   HWND window = CreateWindowExA(exStyle_, kind_.className, element_.text.c_str(), style_, 0, 0, kFirstSize,
                                 kFirstSize, owner, nullptr, source_.instance, nullptr);
   if (window == nullptr) {
-    failure_.Format(RTX_CLASS, "Could not create window %s, class failed to register or not enough resources",
-                    source_.name);
+    ReportNoWindow();
     return nullptr;
   }
   WriteSlot(window, SLOT_FLAGS, static_cast<LONG>(kind_.isEdit ? EditFlags(element_.exStyle) : WF_CANVAS));
@@ -163,12 +178,8 @@ void TopWindowMaker::FillDialog(HWND window, OwnedFont font) noexcept {
   ProgramFolder(source_.instance, programFolder);
   const ControlSource controls{programFolder.c_str(), source_.rcPath, source_.symbols, source_.records,
                                units_};
-  WindowRecord record = RecordOf(window);
-  CreateControls(controls, window, record, failure_);
-  HWND button = FindChild(window, [](HWND child) {
-    return ClassMatches(child, "BUTTON") && TypeBitsOf(child) == BS_DEFPUSHBUTTON;
-  });
-  record->defaultId = button != nullptr ? GetDlgCtrlID(button) : 0;
+  CreateControls(controls, window, failure_);
+  if (WindowRecord record = RecordOf(window); record != nullptr) record->defaultId = DefaultButtonId(record);
 }
 
 void TopWindowMaker::PlaceWindow(HWND window) const noexcept {

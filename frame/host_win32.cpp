@@ -82,13 +82,13 @@ bool WriteBytes(FileHandle* file, const char* bytes, int size) noexcept {
 bool CloseFile(FileHandle* file) noexcept { return CloseHandle(AsHandle(file)) != FALSE; }
 
 bool QueryFileSize(const char* path, std::uint64_t& size) noexcept {
+  // Opened like this a folder is no file.
   const HANDLE file = OpenExisting(path, 0, FILE_SHARE_READ);
   if (file == INVALID_HANDLE_VALUE) return false;
-  BY_HANDLE_FILE_INFORMATION information;
-  const bool known = GetFileInformationByHandle(file, &information) &&
-                     (information.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+  LARGE_INTEGER bytes;
+  const bool known = GetFileSizeEx(file, &bytes) != FALSE;
   CloseHandle(file);
-  if (known) size = std::uint64_t{information.nFileSizeHigh} << 32 | information.nFileSizeLow;
+  if (known) size = static_cast<std::uint64_t>(bytes.QuadPart);
   return known;
 }
 
