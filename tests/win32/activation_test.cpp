@@ -1,8 +1,7 @@
 // Activation of a window and the way of the keyboard focus through its controls.
 #include "tests/win32/support/forms.h"
-#include "tests/win32/support/input.h"
-#include "tests/win32/support/script.h"
 #include "tests/win32/support/slots.h"
+#include "tests/win32/support/spy.h"
 
 namespace brelt::test {
 namespace {
@@ -48,6 +47,13 @@ TEST_F(FocusTest, TheFirstTabStopIsSoughtBehindControlsThatAreNone) {
     EXPECT_EQ(GetFocus(), form.id == 0 ? window : Child(window, form.id));
     DestroyWindow(window);
   }
+}
+
+TEST_F(FocusTest, AWindowWithoutATabStopTakesTheFocusItself) {
+  const HWND window = LoadShown("Main", "  LTEXT \"L\", 100, 1, 1, 9, 9");
+  SetFocus(nullptr);
+  EXPECT_EQ(Activate(window, true), 0);
+  EXPECT_EQ(GetFocus(), window);
 }
 
 TEST_F(FocusTest, AHiddenControlIsNoTabStop) {
@@ -210,8 +216,8 @@ TEST_F(FocusTest, TheMessageCanNameTheControl) {
   EXPECT_EQ(NextControl(window, reinterpret_cast<WPARAM>(Child(window, 103)), TRUE), 0);
   EXPECT_EQ(GetFocus(), Child(window, 103));
   // Any lParam but 0 names it.
-  EXPECT_EQ(NextControl(window, reinterpret_cast<WPARAM>(Child(window, 102)), 0x10000), 0);
-  EXPECT_EQ(GetFocus(), Child(window, 102));
+  EXPECT_EQ(NextControl(window, reinterpret_cast<WPARAM>(Child(window, 101)), 0x10000), 0);
+  EXPECT_EQ(GetFocus(), Child(window, 101));
 }
 
 TEST_F(FocusTest, TheMessageTakesOnlyAUsableChild) {
@@ -346,25 +352,14 @@ TEST_F(FocusTest, ASystemCommandClosesTheListOfTheComboBoxWithTheFocus) {
   }
 }
 
-std::vector<UINT> messagesSeen;
-WNDPROC realControl = nullptr;
-LRESULT CALLBACK ListenForShowDropDown(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == CB_SHOWDROPDOWN) messagesSeen.push_back(message);
-  return CallWindowProcA(realControl, window, message, wParam, lParam);
-}
-
 TEST_F(FocusTest, ASystemCommandTouchesNoOtherControl) {
-  const HWND window = LoadShown("Main", kCombos);
-  realControl = reinterpret_cast<WNDPROC>(
-      SetWindowLongA(Child(window, 103), GWL_WNDPROC, reinterpret_cast<LONG>(ListenForShowDropDown)));
-  messagesSeen.clear();
-  SetFocus(Child(window, 103));
-  SendDlgItemMessageA(window, 102, CB_SHOWDROPDOWN, TRUE, 0);
-  SetFocus(Child(window, 103));
-  SendMessageA(window, WM_SYSCOMMAND, 0x1230, 0);
-  SetFocus(nullptr);
-  SendMessageA(window, WM_SYSCOMMAND, 0x1230, 0);
-  EXPECT_TRUE(messagesSeen.empty());
+  const HWND window = LoadShown("Main", std::string(kCombos) + "\n  PUSHBUTTON \"A\", 104, 10, 70, 50, 14");
+  for (const HWND focus : {Child(window, 103), Child(window, 104), window, HWND{nullptr}}) {
+    SetFocus(focus);
+    const MessageSpy spy;
+    SendMessageA(window, WM_SYSCOMMAND, 0x1230, 0);
+    for (const SentMessage& sent : spy.sent()) EXPECT_NE(sent.message, static_cast<UINT>(CB_SHOWDROPDOWN));
+  }
 }
 
 TEST_F(FocusTest, ASystemCommandReachesThePlatform) {

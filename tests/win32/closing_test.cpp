@@ -56,6 +56,8 @@ TEST_F(CloseTest, TheCloseBoxAsksTheProgram) {
 }
 
 TEST_F(CloseTest, AFunctionCanDestroyItsWindowItself) {
+  const TestClass tooltips("TOOLTIPS.1.3.2207");
+  const TestWindow tooltip(tooltips.name(), "Tooltip_window");
   for (const int32_t answer : {0, 1}) {
     const HWND window = LoadShown("Main", kOneButton);
     Log().onEvent = [&](HWND source, const Event& event) {
@@ -65,6 +67,7 @@ TEST_F(CloseTest, AFunctionCanDestroyItsWindowItself) {
     EXPECT_EQ(SendMessageA(window, WM_CLOSE, 0, 0), 0);
     EXPECT_FALSE(IsWindow(window));
     EXPECT_EQ(Log().Count(EV_CLOSE), 1);
+    EXPECT_TRUE(IsWindow(tooltip.get())) << "There is nothing left to close";
   }
 }
 
@@ -260,6 +263,42 @@ TEST_F(CloseTest, AFunctionCanDestroyItsWindowInsideAnEventOfRealInput) {
     for (const WORD key : {WORD{VK_MENU}, WORD{VK_CONTROL}}) KeyUp(key);
     Pump();
   }
+}
+
+// ---- The way back ----
+
+// The slot counts for a close, whether or not the window is shown modally just now; for hiding the mark
+// counts, too.
+TEST_F(CloseTest, GoesBackToTheWindowThatTheSlotNames) {
+  const HWND main = LoadShown("Main", kOneButton);
+  const HWND other = LoadShown("Other", kOneButton);
+  const auto leave = [&](const char* name, const std::function<void(HWND)>& goes) {
+    const HWND box = LoadShown(name, kOneButton);
+    WriteSlot(box, kSlotPrevActive, reinterpret_cast<LONG>(main));
+    EnableWindow(main, FALSE);
+    SetActiveWindow(box);
+    goes(box);
+    const bool back = IsWindowEnabled(main) != FALSE;
+    EnableWindow(main, TRUE);
+    SetActiveWindow(other);
+    return back;
+  };
+  const auto show = [](bool visible, LPARAM reason) {
+    return [=](HWND box) { SendMessageA(box, WM_SHOWWINDOW, visible ? TRUE : FALSE, reason); };
+  };
+  const auto asModal = [](const std::function<void(HWND)>& goes) {
+    return [=](HWND box) {
+      WriteSlot(box, kSlotFlags, ReadSlot(box, kSlotFlags) | kFlagModal);
+      goes(box);
+    };
+  };
+  EXPECT_TRUE(leave("A", [](HWND box) { SendMessageA(box, WM_CLOSE, 0, 0); }));
+  EXPECT_FALSE(leave("B", show(false, 0))) << "Without the mark hiding is nothing";
+  EXPECT_TRUE(leave("C", asModal(show(false, 0))));
+  EXPECT_FALSE(leave("D", asModal(show(true, 0)))) << "Nor is showing";
+  EXPECT_FALSE(leave("E", asModal(show(false, SW_PARENTCLOSING)))) << "Nor what its owner does to it";
+  EXPECT_FALSE(leave("F", asModal(show(false, SW_OTHERZOOM))));
+  EXPECT_TRUE(leave("G", asModal(show(false, 0x10000)))) << "Only the low word tells of that";
 }
 
 // ---- The close step ----

@@ -2,6 +2,7 @@
 #include "tests/win32/support/forms.h"
 #include "tests/win32/support/input.h"
 #include "tests/win32/support/script.h"
+#include "tests/win32/support/spy.h"
 
 namespace brelt::test {
 namespace {
@@ -80,6 +81,41 @@ TEST_F(EventTest, AnActivationThatIsOverWhenItsTurnComesIsNotHeard) {
   Pump();
   EXPECT_TRUE(
       Heard({{other, {EV_ACTIVATE, 0, AsParam(window)}}, {other, {EV_ACTIVATE, 0, AsParam(window)}}}));
+}
+
+// A program that puts a procedure of its own before the window's sees these events as messages, and can
+// answer them; all others it hears through its function only.
+TEST_F(EventTest, SomeEventsAreSentThroughTheWindowsProcedure) {
+  const MessageSpy spy;
+  const HWND window = LoadDialog("Main", kOneButton).window;
+  EXPECT_EQ(spy.To(window, EV_LOAD).size(), 1u);
+  Script script;
+  script.Do([] { PressKey(VK_F2); })
+      .Do([&] {
+        MovePointer(window, 2, 2);
+        LeftDown();
+        LeftUp();
+        RightDown();
+        RightUp();
+      })
+      .Do([&] { ClickControl(GetDlgItem(window, 101)); })
+      .Do([&] {
+        SendMessageA(window, WM_TIMER, 1, 0);
+        SendMessageA(window, WM_LBUTTONDBLCLK, 0, 0);
+      })
+      .Do([] { Unload("Main"); });
+  EXPECT_EQ(MainLoop(GetModuleHandleA(nullptr), window, nullptr, nullptr), 0);
+  EXPECT_EQ(spy.To(window, EV_KEYPRESS).size(), 1u);
+  EXPECT_EQ(spy.To(window, EV_MOUSEDOWN).size(), 1u) << "The button's own is posted";
+  EXPECT_EQ(spy.To(window, EV_RIGHTDOWN).size(), 1u);
+  for (const UINT number : {EV_CHANGE, EV_CLICK, EV_DBLCLICK, EV_RESIZE, EV_TIMER, EV_CLOSE}) {
+    EXPECT_TRUE(spy.To(window, number).empty()) << number;
+  }
+  EXPECT_EQ(Log().Count(EV_MOUSEDOWN), 2);
+  EXPECT_EQ(Log().Count(EV_CLICK), 1);
+  EXPECT_EQ(Log().Count(EV_TIMER), 1);
+  EXPECT_EQ(Log().Count(EV_DBLCLICK), 1);
+  EXPECT_EQ(Log().Count(EV_CLOSE), 1);
 }
 
 // ---- Timers ----

@@ -6,6 +6,7 @@
 #include "tests/win32/support/input.h"
 #include "tests/win32/support/script.h"
 #include "tests/win32/support/slots.h"
+#include "tests/win32/support/spy.h"
 
 namespace brelt::test {
 namespace {
@@ -338,6 +339,32 @@ TEST_F(ModalTest, TheWindowThatWasActiveIsActiveAgainAfterTheShow) {
       if (IsWindow(box)) DestroyWindow(box);
     }
   }
+}
+
+TEST_F(ModalTest, TheWindowThatWasActiveComesBackAheadOfOneLoadedSince) {
+  LoadShown("Main", kOneButton, "STYLE WS_CAPTION\n");
+  const HWND caller = LoadShown("Caller", kOneButton);
+  const HWND box = LoadDialog("Box", kButtons).window;
+  Script script;
+  script.Do([&] {
+    // The platform itself would turn to this one: it is enabled, and on top.
+    const HWND later = LoadDialog("Later", kOneButton).window;
+    SetWindowPos(later, HWND_TOP, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    EXPECT_EQ(GetActiveWindow(), box);
+    InvalidateRect(caller, nullptr, TRUE);
+    Unload("Box");
+    EXPECT_EQ(GetActiveWindow(), caller);
+    EXPECT_FALSE(GetUpdateRect(caller, nullptr, FALSE)) << "It is painted at once";
+  });
+  EXPECT_EQ(ShowForm("Box", true), RTX_OK);
+}
+
+TEST_F(ModalTest, AShowPaintsItsWindowBeforeItsLoop) {
+  const HWND box = LoadDialog("Box", kButtons).window;
+  const MessageSpy spy;
+  PostQuitMessage(0);
+  EXPECT_EQ(ShowForm("Box", true), RTX_OK);
+  EXPECT_FALSE(spy.To(box, WM_PAINT).empty());
 }
 
 TEST_F(ModalTest, NestedShowsComeBackOneByOne) {

@@ -3,7 +3,7 @@
 #include "tests/win32/support/forms.h"
 #include "tests/win32/support/imports.h"
 #include "tests/win32/support/input.h"
-#include "tests/win32/support/script.h"
+#include "tests/win32/support/spy.h"
 
 namespace brelt::test {
 namespace {
@@ -273,8 +273,10 @@ TEST_F(CancelTest, DoesNothingWithTheButtonUp) {
 
 TEST_F(CancelTest, DoesNothingBesideEachControl) {
   HoldAt(window_, 2, 2);
+  const MessageSpy spy;
   EXPECT_EQ(SendMessageA(window_, WM_CANCELMODE, 0, 0), 0);
   EXPECT_TRUE(told.empty());
+  EXPECT_EQ(spy.To(window_, WM_CANCELMODE).size(), 1u) << "Nor to the window itself";
 }
 
 TEST_F(CancelTest, ReachesTheDefaultProcedureInAnyCase) {

@@ -413,6 +413,15 @@ TEST_F(ShowTest, DoEventsTranslatesKeysToCharacters) {
   EXPECT_STREQ(text, "aB");
 }
 
+// A loop around it doesn't see the end that was asked for: a program that wants to end unloads its windows.
+TEST_F(ShowTest, DoEventsUsesAQuitMessageUp) {
+  LoadShown("Main", kTwoButtons);
+  PostQuitMessage(5);
+  EXPECT_EQ(DoEvents(), 0);
+  MSG message = {};
+  EXPECT_FALSE(PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+}
+
 TEST_F(ShowTest, DoEventsWorksInsideAnEvent) {
   const HWND main = LoadShown("Main", kTwoButtons);
   Log().onEvent = [&](HWND, const Event& event) {

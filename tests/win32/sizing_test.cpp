@@ -234,6 +234,10 @@ TEST_F(SizeTest, AMinimisedWindowTakesThePlaceFromTheWorkAreasCorner) {
   SystemParametersInfoA(SPI_SETWORKAREA, 0, &area, 0);
   RECT set = {};
   SystemParametersInfoA(SPI_GETWORKAREA, 0, &set, 0);
+  SetLimits(window, kWordMaxPosition, {20, 30, 400, 300});
+  EXPECT_EQ(Words(AskLimits(window)), (std::vector<LONG>{1, 2, 400, 300, 20, 30, 7, 8, 400, 300}))
+      << "not while it isn't minimised";
+  SetLimits(window, kWordMaxPosition, {0, 0, 0, 0});
   ShowWindow(window, SW_MINIMIZE);
   ASSERT_TRUE(IsIconic(window));
   EXPECT_EQ(Words(AskLimits(window)), (std::vector<LONG>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}))

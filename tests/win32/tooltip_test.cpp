@@ -162,6 +162,13 @@ TEST_F(TooltipTest, AButtonWithoutAHintMakesNoWindow) {
   EXPECT_EQ(TakeTimers(), "");
 }
 
+TEST_F(TooltipTest, AButtonWithoutAHintLeavesWhatShows) {
+  Show(first_);
+  Hover(GetDlgItem(window_, 103));
+  EXPECT_TRUE(IsShowing());
+  EXPECT_EQ(TakeTimers(), "");
+}
+
 TEST_F(TooltipTest, OtherControlsAndOtherWindowsMakeNoWindow) {
   const HWND plain = GetDlgItem(window_, 104);
   PutPointer(plain);
