@@ -50,6 +50,8 @@ struct Placement {
   std::int32_t y;
   std::int32_t width;
   std::int32_t height;
+
+  bool HasSize() const noexcept { return width > 0 && height > 0; }
 };
 
 // One row of a WindowRecord: row 0 describes the window, each further one a control by its first five fields.
