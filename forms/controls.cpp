@@ -248,9 +248,10 @@ void CreateControls(const ControlSource& source, HWND window, WindowRecord recor
   }
 }
 
-void ReleaseControlIcons(HWND window) noexcept {
+void ReleaseControlHandles(HWND window) noexcept {
   ForEachChild(window, [](HWND child) {
     const OwnedIcon icon(static_cast<HICON>(RemovePropA(child, kIconProperty)));
+    const OwnedFont font(static_cast<HFONT>(RemovePropA(child, kFontProperty)));
   });
 }
 

@@ -24,8 +24,11 @@ struct ControlSource {
 void CreateControls(const ControlSource& source, HWND window, WindowRecord record,
                     rc::Failure& failure) noexcept;
 
-// Lets go of what the library loaded for the controls of a window that is going: the icons, which no control
-// frees.
-void ReleaseControlIcons(HWND window) noexcept;
+// Marks the font that a property call has made for a control, on the control.
+inline constexpr const char* kFontProperty = "brelt.font";
+
+// Lets go of what the library made for the controls of a window that is going and no control frees: icons and
+// fonts.
+void ReleaseControlHandles(HWND window) noexcept;
 
 }  // namespace brelt
