@@ -1,8 +1,6 @@
 #include "tests/win32/support/propertyform.h"
 
-#include <cstring>
-
-#include "frame/winobject.h"
+#include <ostream>
 
 namespace brelt::test {
 namespace {
@@ -56,6 +54,21 @@ void PropertyTest::SetUp() {
 void PropertyTest::TearDown() {
   SetOptionBase(1);
   FormTest::TearDown();
+}
+
+void PropertyTest::ShowForm() const {
+  ShowWindow(form_, SW_SHOW);
+  UpdateWindow(form_);
+  Pump();
+}
+
+Painting PaintingOf(const MessageSpy& spy, HWND window) {
+  return {static_cast<int>(spy.To(window, WM_PAINT).size()),
+          static_cast<int>(spy.To(window, WM_ERASEBKGND).size())};
+}
+
+std::ostream& operator<<(std::ostream& out, const Painting& painting) {
+  return out << painting.paints << " paints, " << painting.erasures << " erasures";
 }
 
 EditFrame::EditFrame(const char* className, const std::string& name) : className_(className) {

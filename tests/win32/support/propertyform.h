@@ -5,7 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "frame/winobject.h"
 #include "tests/win32/support/forms.h"
+#include "tests/win32/support/spy.h"
 
 namespace brelt::test {
 
@@ -44,10 +46,23 @@ class PropertyTest : public FormTest {
   HWND form() const { return form_; }
   HWND Control(int32_t id) const { return GetDlgItem(form_, id); }
   HMENU menu() const { return GetMenu(form_); }
+  WindowRow* record() const { return reinterpret_cast<WindowRow*>(GetWindowLongA(form_, 0)); }
+  // Makes the form visible and has it painted.
+  void ShowForm() const;
 
  private:
   HWND form_ = nullptr;
 };
+
+// How often a window was painted while a spy listened, and its background erased for it.
+struct Painting {
+  int paints;
+  int erasures;
+
+  bool operator==(const Painting&) const = default;
+};
+Painting PaintingOf(const MessageSpy& spy, HWND window);
+std::ostream& operator<<(std::ostream& out, const Painting& painting);
 
 // A window of an edit window's class as far as property calls look at it: with its name, its messages and its
 // flags, without an inner control.
