@@ -74,20 +74,23 @@ std::int32_t ReplaceSelection(HWND edit, const char* text) noexcept {
 }
 
 constexpr std::int32_t kAsterisk = 42;
+constexpr std::int32_t kBlackCircle = 9679;
 
+bool ShowsCircle(HWND edit) noexcept { return SendMessageW(edit, EM_GETPASSWORDCHAR, 0, 0) == kBlackCircle; }
+
+// The narrow form of the message has no number for the circle; the wide one has others for some bytes.
 std::int32_t PasswordChar(const ObjectCall& call) noexcept {
-  return static_cast<std::int32_t>(SendMessageA(call.control(), EM_GETPASSWORDCHAR, 0, 0));
+  HWND edit = call.control();
+  if (ShowsCircle(edit)) return kBlackCircle;
+  return static_cast<std::uint8_t>(SendMessageA(edit, EM_GETPASSWORDCHAR, 0, 0));
 }
 
 // For the asterisk a black circle is tried first, which needs the wide form of the message.
 void SetPasswordCharOf(const ObjectCall& call, std::int32_t character) noexcept {
-  constexpr WPARAM kBlackCircle = 9679;
   HWND edit = call.control();
   if (character == kAsterisk) {
     SendMessageW(edit, EM_SETPASSWORDCHAR, kBlackCircle, 0);
-    if (SendMessageW(edit, EM_GETPASSWORDCHAR, 0, 0) != static_cast<LRESULT>(kBlackCircle)) {
-      SendMessageA(edit, EM_SETPASSWORDCHAR, kAsterisk, 0);
-    }
+    if (!ShowsCircle(edit)) SendMessageA(edit, EM_SETPASSWORDCHAR, kAsterisk, 0);
   } else {
     SendMessageA(edit, EM_SETPASSWORDCHAR, static_cast<WPARAM>(character & 0xFF), 0);
   }
