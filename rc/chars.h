@@ -2,23 +2,57 @@
 // class.
 #pragma once
 
+#include <array>
 #include <string_view>
 
 namespace brelt::rc {
 
+namespace detail {
+
+enum ClassBit : unsigned char {
+  kDigit = 1,
+  kLetter = 2,
+  kHexLetter = 4,
+  kUnderline = 8,
+  kSpace = 16,
+  kSign = 32
+};
+
+// The classes of each byte: most characters of a text are asked for theirs, and a look-up is the fastest
+// answer.
+inline constexpr std::array<unsigned char, 256> kClasses = [] {
+  std::array<unsigned char, 256> classes{};
+  for (int c = '0'; c <= '9'; ++c) classes[c] = kDigit;
+  for (int c = 'A'; c <= 'Z'; ++c) classes[c] = classes[c + ('a' - 'A')] = kLetter;
+  for (int c = 'A'; c <= 'F'; ++c) classes[c] = classes[c + ('a' - 'A')] = kLetter | kHexLetter;
+  for (int c = '\t'; c <= '\r'; ++c) classes[c] = kSpace;
+  classes[' '] = kSpace;
+  classes['_'] = kUnderline;
+  classes['+'] = classes['-'] = kSign;
+  return classes;
+}();
+
+constexpr bool IsOneOf(char c, int classes) noexcept {
+  return (kClasses[static_cast<unsigned char>(c)] & classes) != 0;
+}
+
+}  // namespace detail
+
 constexpr bool IsDigit(char c) noexcept { return c >= '0' && c <= '9'; }
 constexpr bool IsUpper(char c) noexcept { return c >= 'A' && c <= 'Z'; }
 constexpr bool IsLower(char c) noexcept { return c >= 'a' && c <= 'z'; }
-constexpr bool IsLetter(char c) noexcept { return IsUpper(c) || IsLower(c); }
-constexpr bool IsLetterOrDigit(char c) noexcept { return IsLetter(c) || IsDigit(c); }
-constexpr bool IsWordChar(char c) noexcept { return IsLetterOrDigit(c) || c == '_'; }
-constexpr bool IsHexDigit(char c) noexcept {
-  return IsDigit(c) || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
+constexpr bool IsLetter(char c) noexcept { return detail::IsOneOf(c, detail::kLetter); }
+constexpr bool IsLetterOrDigit(char c) noexcept {
+  return detail::IsOneOf(c, detail::kLetter | detail::kDigit);
 }
+constexpr bool IsWordChar(char c) noexcept {
+  return detail::IsOneOf(c, detail::kLetter | detail::kDigit | detail::kUnderline);
+}
+constexpr bool IsHexDigit(char c) noexcept { return detail::IsOneOf(c, detail::kDigit | detail::kHexLetter); }
 constexpr bool IsOctalDigit(char c) noexcept { return c >= '0' && c <= '7'; }
-constexpr bool IsSpace(char c) noexcept { return c == ' ' || (c >= '\t' && c <= '\r'); }
+constexpr bool IsSpace(char c) noexcept { return detail::IsOneOf(c, detail::kSpace); }
 constexpr bool IsSign(char c) noexcept { return c == '+' || c == '-'; }
-constexpr bool IsDigitOrSign(char c) noexcept { return IsDigit(c) || IsSign(c); }
+constexpr bool IsDigitOrSign(char c) noexcept { return detail::IsOneOf(c, detail::kDigit | detail::kSign); }
 constexpr bool IsControl(char c) noexcept {
   return static_cast<unsigned char>(c) < 32 || static_cast<unsigned char>(c) == 127;
 }

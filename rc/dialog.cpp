@@ -3,12 +3,10 @@
 #include "rc/fields.h"
 #include "rc/statements.h"
 #include "rc/stylewords.h"
-#include "rc/textkit.h"
+#include "rc/tokenreader.h"
 
 namespace brelt::rc {
 namespace {
-
-const char* OrQuestionMark(const char* text) noexcept { return IsEmpty(text) ? "?" : text; }
 
 void Place(ResourceRecord& record, const Rectangle& rectangle) noexcept {
   record.x = rectangle.x;
@@ -17,10 +15,10 @@ void Place(ResourceRecord& record, const Rectangle& rectangle) noexcept {
   record.height = rectangle.height;
 }
 
-class DialogParser {
+class DialogParser : TokenReader {
  public:
   DialogParser(const char* text, RecordTable& records, TextBuffer message) noexcept
-      : text_(text), records_(records), message_(message) {
+      : TokenReader(text), records_(records), message_(message) {
     message_.Clear();
   }
 
@@ -42,9 +40,6 @@ class DialogParser {
   };
 
   ResourceRecord& Window() noexcept { return *records_[0]; }
-  char Here() const noexcept { return text_[position_]; }
-  void Next() noexcept { ScanToken(text_, position_, token_); }
-  bool TokenIs(std::string_view word) const noexcept { return EqualIgnoreCase(token_.view(), word); }
 
   void ParseHeader() noexcept;
   void ParseStatements() noexcept;
@@ -64,21 +59,13 @@ class DialogParser {
   void ReadControlFields(ResourceRecord& record) noexcept;
   std::uint32_t ReadStyleOf(const ControlStatement& statement) noexcept;
 
-  // The token in hand for a message; where the scanner stopped on something that begins no token, that.
-  const char* FoundWord() noexcept {
-    if (token_.IsEmpty()) BadWordText(text_, position_, token_);
-    return OrQuestionMark(token_.c_str());
-  }
   TextWriter Fail() noexcept {
     failed_ = true;
     return TextWriter(message_);
   }
 
-  const char* text_;
   RecordTable& records_;
   TextBuffer message_;
-  std::int32_t position_ = 0;
-  Token token_;  // the token in hand
   bool failed_ = false;
 
   static constexpr std::array<Statement, 7> kStatements = {{
@@ -95,7 +82,6 @@ class DialogParser {
 
 // name keyword {load option} [expression [","] expression [","] expression [","] expression]
 void DialogParser::ParseHeader() noexcept {
-  SkipSpace(text_, position_);
   ScanToken(text_, position_, Window().name);
   ScanToken(text_, position_, Window().keyword);
   for (;;) {
@@ -119,7 +105,7 @@ void DialogParser::ParseStatements() noexcept {
 // "CAPTION" string
 void DialogParser::ReadCaption() noexcept {
   Next();
-  if (*token_.c_str() == '"') {
+  if (TokenIsString()) {
     // A second caption is appended to the first, and the whole decoded again.
     Window().text.Append(StringBody(token_.view()));
     UnescapeInPlace(Window().text);

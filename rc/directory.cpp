@@ -14,7 +14,6 @@ void ResourceDirectory::Walk() noexcept {
   Line line;
   std::uint64_t offset = 0;
   while (complete_ && reader_.Next(line)) {
-    StripLineComment(line.text);
     walk.Feed(line.text);
     if (walk.IsHeader()) complete_ = Add(offset, walk);
     offset = reader_.Offset();

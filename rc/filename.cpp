@@ -60,7 +60,7 @@ FileMessage MissingFileMessage(const char* name) noexcept {
 
 std::int32_t FileSizeOf(const char* name, FileSizeWords* sizeOut) noexcept {
   constexpr std::uint64_t kMost = std::numeric_limits<std::int32_t>::max();
-  std::uint64_t size = ~std::uint64_t{0};
+  std::uint64_t size = 0;
   const bool found =
       !IsEmpty(name) && std::strstr(name, "\\\\") == nullptr && host::QueryFileSize(name, size);
   if (!found) size = ~std::uint64_t{0};

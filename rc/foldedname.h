@@ -19,12 +19,12 @@ class FoldedName {
   // A longer word becomes a key that equals no word's.
   constexpr explicit FoldedName(std::string_view word) noexcept {
     if (word.size() > kMostCharacters) {
-      words_[0] = ~std::uint64_t{0};
+      words_[0] = ~Word{0};
       return;
     }
     for (std::size_t i = 0; i < word.size(); ++i) {
-      const auto byte = static_cast<unsigned char>(ToLower(word[i]));
-      words_[i / 8] |= std::uint64_t{byte} << (56 - 8 * (i % 8));
+      const Word byte = static_cast<unsigned char>(ToLower(word[i]));
+      words_[i / sizeof(Word)] |= byte << 8 * (sizeof(Word) - 1 - i % sizeof(Word));
     }
   }
 
@@ -33,7 +33,10 @@ class FoldedName {
   constexpr bool operator==(const FoldedName&) const noexcept = default;
 
  private:
-  std::array<std::uint64_t, 4> words_{};
+  // As much as the processor takes at once; the first character stands in its highest byte.
+  using Word = std::size_t;
+
+  std::array<Word, (kMostCharacters + 1) / sizeof(Word)> words_{};
 };
 
 // The number of a word's row in an array sorted by the member key; Count when there is no such row.

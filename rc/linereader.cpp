@@ -35,6 +35,11 @@ char* LineReader::FindLineFeed() const noexcept {
 }
 
 void LineReader::Seek(std::uint64_t offset) noexcept {
+  if (!failed_ && offset >= Offset() && offset - Offset() <= static_cast<std::uint64_t>(end_ - next_)) {
+    // What lies behind the lines handed out is still as it was read.
+    next_ += offset - Offset();
+    return;
+  }
   terminator_ = nullptr;
   next_ = end_ = buffer_;
   bufferOffset_ = offset;

@@ -23,12 +23,12 @@ void ScanFirst(const char* line, std::int32_t& position, Name& token) noexcept {
   ScanToken(line, position, token);
 }
 
-// Most lines of a file begin with neither BEGIN nor END, and their first letter says so.
+// Most lines of a file begin with neither BEGIN nor END, and their first two letters say so.
 bool MayBeBlockMark(const char* line) noexcept {
   std::int32_t at = 0;
   SkipSpace(line, at);
   const char first = ToLower(line[at]);
-  return first == 'b' || first == 'e';
+  return (first == 'b' && ToLower(line[at + 1]) == 'e') || (first == 'e' && ToLower(line[at + 1]) == 'n');
 }
 
 void CollapseBackslashes(char* text) noexcept {
@@ -117,7 +117,6 @@ int LocateResource(const char* fileName, const char* resourceName, const char* t
   Line line;
   bool wanted = false;  // the resource the walk is in is the one sought
   for (std::int32_t number = 1; reader.Next(line); ++number) {
-    StripLineComment(line.text);
     walk.Feed(line.text);
     if (listing) {
       if (walk.IsHeader() && types.Holds(walk.keyword())) {
@@ -128,6 +127,7 @@ int LocateResource(const char* fileName, const char* resourceName, const char* t
     if (walk.IsHeader()) wanted = EqualIgnoreCase(walk.name().view(), sought);
     if (!walk.IsInside() || !wanted) continue;
     if (types.Holds(walk.keyword())) {
+      StripLineComment(line.text);
       writer.Append(line.text);
       found = {found.first == 0 ? number : found.first, number};
     }

@@ -21,7 +21,8 @@ inline constexpr std::string_view kAny = "*";
 // Follows the lines of an RC file and tells which resource a line belongs to.
 class ResourceWalk {
  public:
-  // Takes the next line of the file, its line comment already removed.
+  // Takes the next line of the file. It may have its line comment still: no token that matters here can lie
+  // in one, since the scanner stops at a slash.
   void Feed(const char* line) noexcept;
 
   // What the line last fed was.

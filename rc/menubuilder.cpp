@@ -4,31 +4,26 @@
 
 #include "rc/filename.h"
 #include "rc/locate.h"
-#include "rc/textkit.h"
+#include "rc/tokenreader.h"
 
 namespace brelt::rc {
 namespace {
 
-class MenuBuilder {
+class MenuBuilder : TokenReader {
  public:
   MenuBuilder(const char* text, const SymbolIndex& symbols, AcceleratorTable& accelerators,
               Failure& failure) noexcept
-      : text_(text), symbols_(symbols), accelerators_(accelerators), failure_(failure) {}
+      : TokenReader(text), symbols_(symbols), accelerators_(accelerators), failure_(failure) {}
 
   host::MenuHandle* Build() noexcept {
     host::MenuHandle* menu = BuildBar();
     if (!failure_) return menu;
     if (menu != nullptr) host::DestroyMenuTree(menu);
-    FixedText<64> place;
-    TokenPlaceText(text_, position_, place);
-    failure_.message.Append(" ");
-    failure_.message.Append(place.view());
+    AppendPlace(failure_.message);
     return nullptr;
   }
 
  private:
-  void Next() noexcept { ScanToken(text_, position_, token_); }
-  bool TokenIs(std::string_view word) const noexcept { return EqualIgnoreCase(token_.view(), word); }
   // Fails unless the token in hand is the keyword.
   bool Expect(std::string_view keyword, std::string_view failure) noexcept {
     if (!TokenIs(keyword)) failure_.Set(RTX_MENU_SYNTAX, failure);
@@ -42,24 +37,18 @@ class MenuBuilder {
   std::int32_t ReadCommand() noexcept;
   void AddTitleKeys(host::MenuHandle* menu) noexcept;
 
-  const char* text_;
   const SymbolIndex& symbols_;
   AcceleratorTable& accelerators_;
   Failure& failure_;
-  std::int32_t position_ = 0;
-  Token token_;  // the token in hand
   Token itemText_;
 };
 
 // name "MENU" {load option} "BEGIN" {element} "END"
 host::MenuHandle* MenuBuilder::BuildBar() noexcept {
-  SkipSpace(text_, position_);
   Next();
   Next();
   if (!Expect("MENU", "MENU expected")) return nullptr;
-  do {
-    Next();
-  } while (IsLoadOption(token_.view()));
+  NextBehindLoadOptions();
   if (!Expect("BEGIN", "BEGIN expected")) return nullptr;
   host::MenuHandle* menu = host::MakeMenu();
   if (menu == nullptr) {
@@ -90,7 +79,7 @@ void MenuBuilder::BuildElements(host::MenuHandle* menu) noexcept {
 void MenuBuilder::BuildItem(host::MenuHandle* menu) noexcept {
   Next();
   if (TokenIs("SEPARATOR")) return host::AppendItem(menu, kMenuSeparator, 0, nullptr);
-  if (*token_.c_str() != '"') return failure_.Set(RTX_MENU_SYNTAX, kMenuStringExpected);
+  if (!TokenIsString()) return failure_.Set(RTX_MENU_SYNTAX, kMenuStringExpected);
   token_.Assign(StringBody(token_.view()));
   UnescapeText(token_.c_str(), itemText_);
   Next();

@@ -2,15 +2,15 @@
 
 #include "rc/fields.h"
 #include "rc/menuoptions.h"
-#include "rc/textkit.h"
+#include "rc/tokenreader.h"
 
 namespace brelt::rc {
 namespace {
 
-class MenuParser {
+class MenuParser : TokenReader {
  public:
   MenuParser(const char* text, RecordTable& records, TextBuffer message) noexcept
-      : text_(text), records_(records), message_(message) {
+      : TokenReader(text), records_(records), message_(message) {
     message_.Clear();
   }
 
@@ -19,16 +19,12 @@ class MenuParser {
     ParseHeader();
     if (!failed_) ParseElements();
     if (!failed_) return true;
-    FixedText<64> place;
-    TokenPlaceText(text_, position_, place);
-    TextWriter::Continue(message_).Append(' ').Append(place.view());
+    AppendPlace(message_);
     ClearRecords(records_);
     return false;
   }
 
  private:
-  void Next() noexcept { ScanToken(text_, position_, token_); }
-  bool TokenIs(std::string_view word) const noexcept { return EqualIgnoreCase(token_.view(), word); }
   const char* MenuName() const noexcept { return records_[0]->name.c_str(); }
 
   void ParseHeader() noexcept;
@@ -37,36 +33,26 @@ class MenuParser {
   void ReadItem(ResourceRecord& record, Failure& failure) noexcept;
   void ReadPopup(ResourceRecord& record, Failure& failure) noexcept;
 
-  const char* FoundWord() noexcept {
-    if (token_.IsEmpty()) BadWordText(text_, position_, token_);
-    return token_.IsEmpty() ? "?" : token_.c_str();
-  }
   TextWriter Fail() noexcept {
     failed_ = true;
     return TextWriter(message_);
   }
 
-  const char* text_;
   RecordTable& records_;
   TextBuffer message_;
-  std::int32_t position_ = 0;
-  Token token_;  // the token in hand
   bool failed_ = false;
 };
 
 // name keyword {load option} "BEGIN"
 void MenuParser::ParseHeader() noexcept {
   ResourceRecord& menu = *records_[0];
-  SkipSpace(text_, position_);
   ScanToken(text_, position_, menu.name);
   ScanToken(text_, position_, menu.keyword);
-  do {
-    Next();
-  } while (IsLoadOption(token_.view()));
+  NextBehindLoadOptions();
   if (!IsIdentifier(menu.name.c_str())) {
     Fail().Format(
         "The resource string should start with the name of a MENU resource, instead <%-.*s> was found",
-        kNameLength, menu.name.IsEmpty() ? "?" : menu.name.c_str());
+        kNameLength, OrQuestionMark(menu.name.c_str()));
   } else if (!TokenIs("BEGIN")) {
     Fail().Format("Menu <%-.*s>, BEGIN is expected instead of <%-.*s>", kNameLength, MenuName(), kNameLength,
                   FoundWord());
@@ -131,7 +117,7 @@ void MenuParser::ReadItem(ResourceRecord& record, Failure& failure) noexcept {
     record.style = kMenuSeparator;
     return;
   }
-  if (*token_.c_str() != '"') return failure.Set(RTX_MENU_SYNTAX, kMenuStringExpected);
+  if (!TokenIsString()) return failure.Set(RTX_MENU_SYNTAX, kMenuStringExpected);
   Token decoded;
   token_.Assign(StringBody(token_.view()));
   UnescapeText(token_.c_str(), decoded);

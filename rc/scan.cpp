@@ -207,10 +207,6 @@ void ScanToken(const char* text, std::int32_t& position, TextBuffer token) noexc
   SkipSpace(text, position);
 }
 
-void SkipSpace(const char* text, std::int32_t& position) noexcept {
-  while (IsSpace(text[position])) ++position;
-}
-
 void ScanSignedDigits(const char* text, std::int32_t& position) noexcept {
   if (IsSign(text[position])) ++position;
   position = PassDigits(text, position);

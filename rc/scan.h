@@ -24,7 +24,11 @@ using Name = FixedText<kNameLength>;
 void ScanToken(const char* text, std::int32_t& position, TextBuffer token) noexcept;
 
 // Moves position past white space.
-void SkipSpace(const char* text, std::int32_t& position) noexcept;
+inline void SkipSpace(const char* text, std::int32_t& position) noexcept {
+  std::int32_t at = position;
+  while (IsSpace(text[at])) ++at;
+  position = at;
+}
 
 // Moves position past one optional sign and the digits behind it, perhaps past nothing.
 void ScanSignedDigits(const char* text, std::int32_t& position) noexcept;
@@ -33,10 +37,16 @@ void ScanSignedDigits(const char* text, std::int32_t& position) noexcept;
 // is dropped. Source and destination must be different buffers.
 void UnescapeText(const char* source, TextBuffer destination) noexcept;
 
+// Whether UnescapeText could change anything of a text.
+inline bool HasEscapes(const char* text) noexcept {
+  while (*text != '\0' && *text != '\\' && *text != '"') ++text;
+  return *text != '\0';
+}
+
 // Decodes a text in place, through a buffer of the same capacity.
 template <int Capacity>
 void UnescapeInPlace(FixedText<Capacity>& text) noexcept {
-  if (text.view().find_first_of("\\\"") == std::string_view::npos) return;
+  if (!HasEscapes(text.c_str())) return;
   FixedText<Capacity> decoded;
   UnescapeText(text.c_str(), decoded);
   text.Assign(decoded.view());

@@ -80,7 +80,8 @@ std::int32_t DefinedValue(const char* token) noexcept {
 }
 
 // definition = "#define" name value. The mark must be the line's very first character with the word right
-// behind it, in lower case. A name that begins with '_' is no word for the scanner and so has no row.
+// behind it, in lower case. A name that begins with '_' is no word for the scanner and so has no row. A
+// comment needs no removing: the scanner reads no token of it.
 void ReadDefinition(const char* line, GrowingTable& table) noexcept {
   if (*line != '#') return;
   std::int32_t position = 1;
@@ -145,10 +146,7 @@ void ReadSymbolFile(const char* path, GrowingTable& table, SymbolReport& report)
     return;
   }
   Line line;
-  while (reader.Next(line)) {
-    StripLineComment(line.text);
-    ReadDefinition(line.text, table);
-  }
+  while (reader.Next(line)) ReadDefinition(line.text, table);
 }
 
 // Adds the words of the records' names; a word that the file doesn't define has the value 0.

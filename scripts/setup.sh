@@ -5,7 +5,7 @@ set -euo pipefail
 tools=(
   cmake ninja-build g++ git
   g++-mingw-w64-i686-posix binutils-mingw-w64-i686 mingw-w64-tools
-  googletest
+  googletest pkg-config
   clang clang-format clang-tidy libclang-rt-14-dev llvm gcovr
   xvfb xdotool imagemagick x11-utils
   fonts-wine fonts-liberation

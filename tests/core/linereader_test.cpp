@@ -160,6 +160,18 @@ TEST_F(LineReaderTest, SeeksToTheOffsetsThatItGave) {
     ASSERT_EQ(line.text, lines[i]) << i;
     ASSERT_EQ(reader.Offset(), offsets[i + 1]) << i;
   }
+  // Forward too, over lines within the buffer and beyond it, from wherever a line was left.
+  for (const std::size_t step : {1u, 2u, 7u, 500u}) {
+    reader.Seek(0);
+    for (std::size_t i = 0; i < lines.size(); i += step) {
+      reader.Seek(offsets[i]);
+      ASSERT_TRUE(reader.Next(line));
+      ASSERT_EQ(line.text, lines[i]) << i;
+      line.text[0] = line.text[line.length] = '!';
+    }
+  }
+  reader.Seek(offsets.back());
+  EXPECT_FALSE(reader.Next(line));
   reader.Seek(bytes.size() + 5);
   EXPECT_FALSE(reader.Next(line));
   EXPECT_FALSE(reader.HasFailed());

@@ -102,6 +102,7 @@ inline constexpr MenuCase kMenuCases[] = {
     {"M MENU BEGIN POPUP abcd BEGIN END POPUP , BEGIN END POPUP \"\" BEGIN END POPUP ab BEGIN END END",
      "0010 -1 bc\n0010 -1 \n0010 -1 \n0010 -1 \n", "", ""},
     {"M MENU BEGIN POPUP BEGIN END END", "", "", "BEGIN expected (Line 1, col 26)", RTX_MENU_SYNTAX},
+    {"M MENU BEGIN POPUP ; BEGIN END END", "", "", "BEGIN expected (Line 1, col 14)", RTX_MENU_SYNTAX},
     {"M MENU BEGIN POPUP \"a\" END END", "", "", "BEGIN expected (Line 1, col 24)", RTX_MENU_SYNTAX},
     {"M MENU BEGIN POPUP \"a\", X BEGIN END END", "", "", "Unknown menu option: X (Line 1, col 25)",
      RTX_MENU_SYNTAX},

@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Builds and runs the benchmarks: for each comparison a table of medians and whether the goal is kept.
+. "$(dirname "$0")/lib.sh"
+scripts/setup.sh
+build_preset native
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+printf '%s, %s processors, %s\n' "$(sed -n 's/^model name[^:]*: //p' /proc/cpuinfo | head -n 1)" "$(nproc)" \
+  "$(uname -sr)"
+# One processor for all of it: moving between two costs more than some of the differences.
+pin=()
+command -v taskset >/dev/null && pin=(taskset -c "$(($(nproc) - 1))")
+(cd "$work" && "${pin[@]}" "$root/build/native/bin/parse_bench")
