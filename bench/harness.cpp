@@ -15,9 +15,11 @@ double MedianOf(std::vector<double> values) {
 
 double TimeOf(const Way& way) {
   using Clock = std::chrono::steady_clock;
+  if (way.before) way.before();
   const Clock::time_point start = Clock::now();
   way.run();
   const std::chrono::duration<double, std::nano> taken = Clock::now() - start;
+  if (way.after) way.after();
   return taken.count() / way.units;
 }
 
@@ -26,7 +28,7 @@ double TimeOf(const Way& way) {
 std::vector<Measured> Measure(const std::vector<Way>& ways, int rounds) {
   std::vector<std::vector<double>> times(ways.size());
   std::vector<std::vector<double>> ratios(ways.size());
-  for (const Way& way : ways) way.run();
+  for (const Way& way : ways) TimeOf(way);
   for (int round = 0; round < rounds; ++round) {
     for (std::size_t i = 0; i < ways.size(); ++i) times[i].push_back(TimeOf(ways[i]));
     for (std::size_t i = 0; i < ways.size(); ++i) ratios[i].push_back(times[i].back() / times[0].back());

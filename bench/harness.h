@@ -9,11 +9,14 @@
 
 namespace brelt::bench {
 
-// A way to do the thing. It is called once in each round; units is how many things one call does.
+// A way to do the thing. It is called once in each round; units is how many things one call does. What must
+// be there first and what must go afterwards, where there is such a thing, is not timed.
 struct Way {
   std::string name;
   double units;
   std::function<void()> run;
+  std::function<void()> before = {};
+  std::function<void()> after = {};
 };
 
 struct Measured {

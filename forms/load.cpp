@@ -61,9 +61,9 @@ void GiveMenu(HWND window, const LoadRequest& request, const char* path, const c
   WritePointer(window, SLOT_ACCELTABLE, keys.release());
   OwnedMenu previous(GetMenu(window));
   SetMenu(window, nullptr);
-  host::MenuHandle* menu = rc::BuildMenuFromFile(path, menuName, symbols, table, failure);
+  OwnedMenu menu(reinterpret_cast<HMENU>(rc::BuildMenuFromFile(path, menuName, symbols, table, failure)));
   if (failure) return;
-  SetMenu(window, reinterpret_cast<HMENU>(menu));
+  if (SetMenu(window, menu.get())) menu.release();
   DrawMenuBar(window);
 }
 

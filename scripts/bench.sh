@@ -12,3 +12,13 @@ printf '%s, %s processors, %s\n' "$(sed -n 's/^model name[^:]*: //p' /proc/cpuin
 pin=()
 command -v taskset >/dev/null && pin=(taskset -c "$(($(nproc) - 1))")
 (cd "$work" && "${pin[@]}" "$root/build/native/bin/parse_bench")
+
+# ---- The Windows side ----
+
+# Loading forms, with the program and the server it talks to on one processor.
+bench_windows() {
+  build_preset win32 load_bench brelt
+  . scripts/wine.sh
+  WINE_PROCESSOR=$(($(nproc) - 1)) wine_run null build/win32/bin/load_bench.exe | tr -d '\r'
+}
+bench_windows

@@ -37,6 +37,7 @@ if [ $win32 -eq 1 ]; then
   run core32 wine_run null build/win32/bin/core_tests.exe
   run parts wine_run null build/win32/bin/parts_tests.exe
   run win32 wine_run null build/win32/bin/win_tests.exe
+  WINE_PROCESSOR=0 WINE_TIMEOUT=1800 run leaks wine_run null build/win32/bin/leak_tests.exe
   run screen wine_run x11 build/win32/bin/screen_tests.exe
 fi
 

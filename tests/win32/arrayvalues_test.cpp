@@ -1,115 +1,173 @@
-// The block of named strings that a window carries.
-#include "forms/arrayvalues.h"
+// The named strings that a window keeps, and how they are asked for and changed.
+#include <cstring>
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <string_view>
+#include "tests/win32/support/forms.h"
+#include "tests/win32/support/handles.h"
+#include "tests/win32/support/imports.h"
+#include "tests/win32/support/slots.h"
 
 namespace brelt::test {
 namespace {
 
-using namespace std::string_literals;
+// A block of entries as text with bars for the ends, the last end included.
+std::string BlockText(const char* block) {
+  if (block == nullptr) return "none";
+  std::string text;
+  for (; *block != '\0'; block += std::strlen(block) + 1) text += std::string(block) + "|";
+  return text + "|";
+}
 
-// A block from its entries; the literal's own zero ends it.
-const char* const kNoBlock = nullptr;
-
-// All bytes of a block up to and with the empty entry.
-std::string Bytes(const char* block) { return {block, LocateArrayValue(block, "*").size + 1}; }
-
-TEST(LocateArrayValue, FindsTheLastEntryOfAKeyAndTheSizeOfAll) {
-  struct Case {
-    std::string block;  // without the empty entry at the end
-    const char* key;
-    std::size_t position;
-  };
-  constexpr std::size_t kNone = std::string::npos;
-  const Case cases[] = {
-      {"", "a", kNone},         {"a=1\0"s, "a", 0},           {"a=1\0"s, "b", kNone},
-      {"a=1\0"s, "", kNone},    {"a=1\0b=2\0"s, "b", 4},      {"a=1\0b=2\0A=3\0"s, "a", 8},
-      {"ab=1\0a=2\0"s, "a", 5}, {"a=1\0ab=2\0"s, "a", 0},     {"a\0b=1\0"s, "a", kNone},
-      {"\xE4=1\0"s, "\xE4", 0}, {"\xE4=1\0"s, "\xC4", kNone}, {"=1\0"s, "", 0},
-      {"a=b=c\0"s, "a=b", 0},   {"*=1\0"s, "*", 0},           {"a b=1\0"s, "A B", 0},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.block + " for " + c.key);
-    const ArrayPlace place = LocateArrayValue(c.block.c_str(), c.key);
-    EXPECT_EQ(place.size, c.block.size());
-    EXPECT_EQ(place.position, c.position == kNone ? c.block.size() : c.position);
-    EXPECT_EQ(place.IsFound(), c.position != kNone);
+class ArrayValueTest : public FormTest {
+ protected:
+  void SetUp() override {
+    FormTest::SetUp();
+    window_ = LoadShown("Main", "  LTEXT \"A\", 101, 1, 1, 10, 10");
   }
-  const ArrayPlace nowhere = LocateArrayValue(kNoBlock, "a");
-  EXPECT_EQ(nowhere.size, 0u);
-  EXPECT_EQ(nowhere.position, 0u);
-}
-
-TEST(LocateArrayValue, ComparesAtMost1024CharactersOfKeyAndEqualsSign) {
-  struct Case {
-    std::size_t length;  // of the key
-    bool found;          // in a block with the key of that length and another character behind it
-  };
-  for (const Case& c : {Case{1022, false}, Case{1023, false}, Case{1024, true}, Case{3000, true}}) {
-    SCOPED_TRACE(c.length);
-    const std::string key(c.length, 'k');
-    const std::string block = key + "more=1\0"s;
-    EXPECT_EQ(LocateArrayValue(block.c_str(), key.c_str()).IsFound(), c.found);
+  const char* Get(const std::string& key) const {
+    return reinterpret_cast<const char*>(Send(XM_GETARRAYVALUE, key.c_str()));
   }
-}
-
-TEST(FindArrayValue, GivesWhatStandsBehindTheEqualsSign) {
-  const std::string block = "a=1\0b==2=\0empty=\0a=3\0"s;
-  EXPECT_STREQ(FindArrayValue(block.c_str(), "A"), "3");
-  EXPECT_STREQ(FindArrayValue(block.c_str(), "b"), "=2=");
-  EXPECT_STREQ(FindArrayValue(block.c_str(), "b="), "2=");
-  EXPECT_STREQ(FindArrayValue(block.c_str(), "empty"), "");
-  EXPECT_EQ(FindArrayValue(block.c_str(), "c"), nullptr);
-  EXPECT_EQ(FindArrayValue(kNoBlock, "a"), nullptr);
-}
-
-TEST(WithArrayValue, AddsAtTheEndOrReplacesTheLastInItsPlace) {
-  struct Case {
-    std::string before;
-    const char* key;
-    const char* value;
-    std::string after;
-  };
-  const Case cases[] = {
-      {"", "a", "1", "a=1\0\0"s},
-      {"", "", "", "=\0\0"s},
-      {"a=1\0"s, "b", "2", "a=1\0b=2\0\0"s},
-      {"a=1\0"s, "A", "22", "A=22\0\0"s},
-      {"a=1\0b=2\0c=3\0"s, "b", "", "a=1\0b=\0c=3\0\0"s},
-      {"a=1\0b=2\0c=3\0"s, "b", "two", "a=1\0b=two\0c=3\0\0"s},
-      {"a=1\0b=2\0c=3\0"s, "c", "3", "a=1\0b=2\0c=3\0\0"s},
-      {"a=1\0b=2\0a=3\0b=4\0"s, "a", "5", "a=1\0b=2\0a=5\0b=4\0\0"s},
-      {"a\0"s, "a", "1", "a\0a=1\0\0"s},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.before + " with " + c.key + "=" + c.value);
-    const host::Block<char> after = WithArrayValue(c.before.c_str(), c.key, c.value);
-    ASSERT_TRUE(after);
-    EXPECT_EQ(Bytes(after.get()), c.after);
-    EXPECT_EQ(after.count(), c.after.size());
+  LRESULT Set(const std::string& key, const std::string& value) const {
+    return Send(XM_SETARRAYVALUE, key.c_str(), value.c_str());
   }
-  EXPECT_EQ(Bytes(WithArrayValue(kNoBlock, "a", "1").get()), "a=1\0\0"s);
-}
-
-TEST(WithArrayValue, CutsAnEntryTo1024Characters) {
-  for (const std::size_t length : {1021u, 1022u, 1023u, 5000u}) {
-    SCOPED_TRACE(length);
-    const std::string value(length, 'v');
-    const std::string entry = ("k=" + value).substr(0, 1024);
-    EXPECT_EQ(Bytes(WithArrayValue("a=1\0", "k", value.c_str()).get()), "a=1\0"s + entry + "\0\0"s);
+  const char* Block() const {
+    return reinterpret_cast<const char*>(SendMessageA(window_, XM_GETARRAYVALUES, 0, 0));
   }
-  const std::string key(2000, 'k');
-  EXPECT_EQ(Bytes(WithArrayValue(kNoBlock, key.c_str(), "v").get()), key.substr(0, 1024) + "\0\0"s);
+  std::string All() const { return BlockText(Block()); }
+  LRESULT SetAll(const char* block) const { return Send(XM_SETARRAYVALUES, nullptr, block); }
+
+  LRESULT Send(UINT message, const void* wParam, const void* lParam = nullptr) const {
+    return SendMessageA(window_, message, reinterpret_cast<WPARAM>(wParam), reinterpret_cast<LPARAM>(lParam));
+  }
+
+  HWND window_ = nullptr;
+};
+
+TEST_F(ArrayValueTest, AWindowStartsWithNone) {
+  EXPECT_EQ(Block(), nullptr);
+  EXPECT_EQ(Get("key"), nullptr);
+  EXPECT_EQ(ReadSlot(window_, kSlotArrayValues), 0);
 }
 
-TEST(CopyArrayValues, CopiesUpToTheEmptyEntry) {
-  EXPECT_EQ(Bytes(CopyArrayValues("a=1\0b=2\0\0c=3\0").get()), "a=1\0b=2\0\0"s);
-  EXPECT_EQ(Bytes(CopyArrayValues("*=1\0").get()), "*=1\0\0"s);
-  EXPECT_EQ(Bytes(CopyArrayValues("").get()), "\0"s);
-  EXPECT_EQ(Bytes(CopyArrayValues(kNoBlock).get()), "\0"s);
+TEST_F(ArrayValueTest, AValueCanBeAddedAskedAndReplaced) {
+  EXPECT_EQ(Set("one", "1"), RTX_OK);
+  EXPECT_EQ(Set("two", "2"), RTX_OK);
+  EXPECT_EQ(Set("three", ""), RTX_OK);
+  EXPECT_EQ(All(), "one=1|two=2|three=||");
+  EXPECT_STREQ(Get("two"), "2");
+  EXPECT_STREQ(Get("three"), "");
+  EXPECT_EQ(Set("two", "a longer one"), RTX_OK);
+  EXPECT_EQ(All(), "one=1|two=a longer one|three=||");
+  EXPECT_EQ(Set("one", ""), RTX_OK);
+  EXPECT_EQ(All(), "one=|two=a longer one|three=||");
+  EXPECT_EQ(Set("three", "3"), RTX_OK);
+  EXPECT_EQ(All(), "one=|two=a longer one|three=3||");
+  EXPECT_EQ(reinterpret_cast<const char*>(ReadSlot(window_, kSlotArrayValues)), Block());
+}
+
+TEST_F(ArrayValueTest, KeysAreComparedWithoutRegardToCase) {
+  Set("Key", "1");
+  EXPECT_STREQ(Get("KEY"), "1");
+  Set("kEY", "2");
+  EXPECT_EQ(All(), "kEY=2||");
+}
+
+TEST_F(ArrayValueTest, AKeyIsNoBeginningOfAnother) {
+  Set("long", "1");
+  EXPECT_EQ(Get("lon"), nullptr);
+  EXPECT_EQ(Get("longer"), nullptr);
+  EXPECT_EQ(Get(""), nullptr);
+  Set("lon", "2");
+  EXPECT_EQ(All(), "long=1|lon=2||");
+}
+
+TEST_F(ArrayValueTest, OfSeveralEntriesTheLastCounts) {
+  SetAll("a=1\0b=2\0A=3\0c=4\0");
+  EXPECT_STREQ(Get("a"), "3");
+  Set("a", "5");
+  EXPECT_EQ(All(), "a=1|b=2|a=5|c=4||");
+}
+
+TEST_F(ArrayValueTest, AKeyThatHoldsAnEqualsSignMatchesAsThePrefixAskedFor) {
+  SetAll("a=b=1\0");
+  EXPECT_STREQ(Get("a=b"), "1");
+  EXPECT_STREQ(Get("a"), "b=1");
+}
+
+TEST_F(ArrayValueTest, AnEntryIsCutTo1024Characters) {
+  const std::string value(2000, 'v');
+  EXPECT_EQ(Set("key", value), RTX_OK);
+  EXPECT_EQ(All(), "key=" + std::string(1020, 'v') + "||");
+  EXPECT_EQ(Set("key", std::string(1020, 'w')), RTX_OK);
+  EXPECT_EQ(All(), "key=" + std::string(1020, 'w') + "||");
+  // A key alone can fill it.
+  const std::string key(1500, 'k');
+  EXPECT_EQ(SetAll(""), RTX_OK);
+  EXPECT_EQ(Set(key, "lost"), RTX_OK);
+  EXPECT_EQ(All(), std::string(1024, 'k') + "||");
+}
+
+TEST_F(ArrayValueTest, ABlockIsReplacedAsAWhole) {
+  Set("old", "1");
+  EXPECT_EQ(SetAll("a=1\0b=2\0"), RTX_OK);
+  EXPECT_EQ(All(), "a=1|b=2||");
+  EXPECT_EQ(SetAll("x=9\0"), RTX_OK);
+  EXPECT_EQ(All(), "x=9||");
+}
+
+TEST_F(ArrayValueTest, AnEmptyBlockLeavesTheWindowWithNone) {
+  Set("a", "1");
+  EXPECT_EQ(SetAll(""), RTX_OK);
+  EXPECT_EQ(Block(), nullptr);
+  Set("a", "1");
+  EXPECT_EQ(SetAll(nullptr), RTX_OK);
+  EXPECT_EQ(Block(), nullptr);
+  EXPECT_EQ(ReadSlot(window_, kSlotArrayValues), 0);
+}
+
+TEST_F(ArrayValueTest, TheWindowKeepsACopy) {
+  char block[] = "a=1\0b=2\0";
+  SetAll(block);
+  block[0] = 'z';
+  EXPECT_EQ(All(), "a=1|b=2||");
+}
+
+TEST_F(ArrayValueTest, AWindowsOwnBlockAndValuesCanBeGivenBackToIt) {
+  SetAll("a=1\0b=2\0");
+  EXPECT_EQ(SetAll(Block()), RTX_OK);
+  EXPECT_EQ(All(), "a=1|b=2||");
+  EXPECT_EQ(Send(XM_SETARRAYVALUE, "a", Get("b")), RTX_OK);
+  EXPECT_EQ(All(), "a=2|b=2||");
+}
+
+TEST_F(ArrayValueTest, MissingTextsChangeNothing) {
+  Set("a", "1");
+  EXPECT_EQ(Send(XM_SETARRAYVALUE, nullptr, "x"), 0);
+  EXPECT_EQ(Send(XM_SETARRAYVALUE, "x", nullptr), 0);
+  EXPECT_EQ(Send(XM_GETARRAYVALUE, nullptr), 0);
+  EXPECT_EQ(All(), "a=1||");
+}
+
+HGLOBAL WINAPI FailToAllocate(UINT, SIZE_T) { return nullptr; }
+
+TEST_F(ArrayValueTest, WithoutMemoryTheBlockStaysAsItIs) {
+  SetAll("a=1\0b=2\0");
+  const ReplacedImport import("GlobalAlloc", reinterpret_cast<void*>(FailToAllocate));
+  EXPECT_EQ(Set("a", "5"), RTX_NO_MEMORY);
+  EXPECT_EQ(Set("new", "5"), RTX_NO_MEMORY);
+  EXPECT_EQ(SetAll("x=1\0"), RTX_NO_MEMORY);
+  EXPECT_EQ(All(), "a=1|b=2||");
+  EXPECT_EQ(SetAll(""), RTX_OK) << "Letting the block go needs none";
+  EXPECT_EQ(Block(), nullptr);
+}
+
+TEST_F(ArrayValueTest, NoBlockIsLeftBehind) {
+  Set("a", "1");
+  const int blocks = CountHandles().memoryBlocks;
+  for (int i = 0; i < 100; ++i) {
+    Set("a", std::string(static_cast<std::size_t>(i), 'x'));
+    SetAll("a=1\0b=2\0");
+  }
+  EXPECT_EQ(CountHandles().memoryBlocks, blocks);
 }
 
 }  // namespace
