@@ -191,6 +191,15 @@ TEST_F(PositionTest, WorksByTheHandleOfAForeignWindow) {
   }
 }
 
+TEST_F(PositionTest, WorksByTheHandleOfAnotherProcesssWindow) {
+  HWND desktop = GetDesktopWindow();
+  DWORD process = 0;
+  GetWindowThreadProcessId(desktop, &process);
+  ASSERT_NE(process, GetCurrentProcessId());
+  EXPECT_EQ(Position(HandleText(desktop), 0, 1),
+            (Place{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}));
+}
+
 TEST_F(PositionTest, WorksByTheHandleOfAFormWithItsControls) {
   const std::string name = HandleText(form());
   EXPECT_EQ(Position(name, 0, 1), OuterPlace(form()));
