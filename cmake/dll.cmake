@@ -63,6 +63,7 @@ add_library(brelt_parts OBJECT
   forms/windowclass.cpp
   forms/windowprocs.cpp
   graphics/canvas.cpp
+  graphics/picturememory.cpp
   graphics/trackrect.cpp
   printing/printer.cpp
   rc/exports.cpp

@@ -4,6 +4,7 @@
 
 #include <cstring>
 
+#include "frame/owners.h"
 #include "include/events.h"
 
 namespace brelt {
@@ -57,15 +58,14 @@ std::int32_t GetClipboardTextLength() noexcept {
 
 std::int32_t SetClipboardText(const char* text) noexcept {
   const std::size_t size = std::strlen(text) + 1;
-  HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, size);
-  if (block == nullptr) return RTX_NO_MEMORY;
-  if (void* memory = GlobalLock(block); memory != nullptr) {
-    std::memcpy(memory, text, size);
-    GlobalUnlock(block);
-  }
+  OwnedGlobal block(GlobalAlloc(GMEM_MOVEABLE, size));
+  void* memory = block ? GlobalLock(block.get()) : nullptr;
+  if (memory == nullptr) return RTX_NO_MEMORY;
+  std::memcpy(memory, text, size);
+  GlobalUnlock(block.get());
   const OpenedClipboard clipboard;
   // What the clipboard takes is its own from then on.
-  if (!clipboard || !EmptyClipboard() || SetClipboardData(CF_TEXT, block) == nullptr) GlobalFree(block);
+  if (clipboard && EmptyClipboard() && SetClipboardData(CF_TEXT, block.get()) != nullptr) block.release();
   return RTX_OK;
 }
 

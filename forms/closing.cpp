@@ -88,7 +88,7 @@ LRESULT OnShowWindow(const Message& message) noexcept {
 
 // The last moment at which the controls are there.
 LRESULT OnDestroy(const Message& message) noexcept {
-  ReleaseControlIcons(message.window);
+  ReleaseControlHandles(message.window);
   return message.Default();
 }
 

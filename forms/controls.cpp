@@ -19,7 +19,9 @@ using rc::FixedText;
 using rc::ResourceRecord;
 
 constexpr std::string_view kStandardClasses = "BUTTON,COMBOBOX,EDIT,LISTBOX,SCROLLBAR,STATIC";
-// On a control, the icon that the library loaded for it; on its window, a mark that there are such controls.
+// On a window: some of its controls have a handle of the library's. Most have none and needn't be asked.
+constexpr const char* kHandlesProperty = "brelt.handles";
+// On a control, the icon that the library loaded for it.
 constexpr const char* kIconProperty = "brelt.icon";
 constexpr std::uint32_t kIconType = 3;
 // Longest window class name, version and release included.
@@ -224,8 +226,7 @@ HWND ControlMaker::Create(const ResourceRecord& record, const ClassName& windowC
 // The control only shows the icon. One that can't be remembered couldn't be freed, so the control doesn't get
 // it.
 void ControlMaker::GiveIcon(HWND control, OwnedIcon icon) noexcept {
-  const bool remembered =
-      icon && SetPropA(window_, kIconProperty, window_) && SetPropA(control, kIconProperty, icon.get());
+  const bool remembered = icon && KeepForControl(control, kIconProperty, icon.get());
   HICON shown = remembered ? icon.release() : nullptr;
   SendMessageA(control, STM_SETICON, reinterpret_cast<WPARAM>(shown), 0);
 }
@@ -262,10 +263,16 @@ void CreateControls(const ControlSource& source, HWND window, Failure& failure) 
   }
 }
 
-void ReleaseControlIcons(HWND window) noexcept {
-  if (RemovePropA(window, kIconProperty) == nullptr) return;
+bool KeepForControl(HWND control, const char* property, HANDLE handle) noexcept {
+  HWND window = GetAncestor(control, GA_PARENT);
+  return SetPropA(window, kHandlesProperty, window) != FALSE && SetPropA(control, property, handle) != FALSE;
+}
+
+void ReleaseControlHandles(HWND window) noexcept {
+  if (RemovePropA(window, kHandlesProperty) == nullptr) return;
   ForEachChild(window, [](HWND child) {
     const OwnedIcon icon(static_cast<HICON>(RemovePropA(child, kIconProperty)));
+    const OwnedFont font(static_cast<HFONT>(RemovePropA(child, kFontProperty)));
   });
 }
 

@@ -1,5 +1,6 @@
 // FontName, FontSize, FontBold and FontItalic, of a window by its handle or, with a null handle, of the
 // printer.
+#include "forms/controls.h"
 #include "forms/fonts.h"
 #include "forms/property.h"
 #include "include/brelt.h"
@@ -31,11 +32,6 @@ bool ReadFont(HGDIOBJ font, LOGFONTA& logical) noexcept {
   return font != nullptr && GetObjectA(font, sizeof logical, &logical) != 0;
 }
 
-int ScreenDpi() noexcept {
-  const OwnedDc display(CreateICA("DISPLAY", nullptr, nullptr, nullptr));
-  return display ? GetDeviceCaps(display.get(), LOGPIXELSY) : 0;
-}
-
 host::FontChoice DescribeFont(HFONT font) noexcept {
   LOGFONTA logical;
   host::FontChoice choice;
@@ -50,7 +46,7 @@ host::FontChoice DescribeFont(HFONT font) noexcept {
 
 // A damaged font heap gives itself away by these: they guard every change.
 bool IsFontHeapSound() noexcept {
-  if (ScreenDpi() == 0) return false;
+  if (DisplayMeasure(LOGPIXELSY) == 0) return false;
   for (const int stock : {ANSI_FIXED_FONT, ANSI_VAR_FONT, SYSTEM_FONT, DEFAULT_GUI_FONT}) {
     LOGFONTA logical;
     if (!ReadFont(GetStockObject(stock), logical)) return false;
@@ -64,21 +60,23 @@ bool HasSoundFace(HWND window) noexcept {
   return rc::IsLetter(first) || first == '_' || first == '@';
 }
 
-// Whether a control has its font from the window it is in, which owns it.
-bool SharesFont(HWND window, HFONT font) noexcept {
-  const WindowRow* record = RecordOf(GetParent(window));
-  return record != nullptr && record->font == font;
-}
+// The record of the form that a control is on; null for any other window.
+const WindowRow* FormOf(HWND control) noexcept { return RecordOf(GetAncestor(control, GA_PARENT)); }
 
-// Hands a window its new font; the one before goes.
+// Hands a window its new font; the one before goes. The font that a form gave to all its controls stays: it
+// is the form's. What a control has instead goes with it.
 void ReplaceFont(HWND window, OwnedFont font) noexcept {
   HFONT before = FontOf(window);
-  const OwnedFont previous(SharesFont(window, before) ? nullptr : before);
-  const auto handle = reinterpret_cast<WPARAM>(font.release());
+  const WindowRow* form = FormOf(window);
+  const OwnedFont own(static_cast<HFONT>(RemovePropA(window, kFontProperty)));
+  const bool stays = before == own.get() || (form != nullptr && form->font == before);
+  const OwnedFont previous(stays ? nullptr : before);
+  HFONT next = font.release();
+  if (form != nullptr) KeepForControl(window, kFontProperty, next);
   if (IsDialog(window)) {
-    SendMessageA(window, XM_SETDRAWFONT, handle, 0);
+    SendMessageA(window, XM_SETDRAWFONT, reinterpret_cast<WPARAM>(next), 0);
   } else {
-    SendMessageA(window, WM_SETFONT, handle, TRUE);
+    SendMessageA(window, WM_SETFONT, reinterpret_cast<WPARAM>(next), TRUE);
   }
 }
 

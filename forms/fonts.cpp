@@ -11,10 +11,15 @@ OwnedDc DisplayContext() noexcept { return OwnedDc(CreateICA("DISPLAY", nullptr,
 
 }  // namespace
 
+int DisplayMeasure(int measure) noexcept {
+  const OwnedDc display = DisplayContext();
+  return display ? GetDeviceCaps(display.get(), measure) : 0;
+}
+
 int DisplayPixelsPerInch() noexcept {
   constexpr int kUsual = 96;
-  const OwnedDc display = DisplayContext();
-  return display ? GetDeviceCaps(display.get(), LOGPIXELSY) : kUsual;
+  const int pixels = DisplayMeasure(LOGPIXELSY);
+  return pixels != 0 ? pixels : kUsual;
 }
 
 OwnedFont MakeFont(const char* face, int pointSize, bool bold, bool italic) noexcept {

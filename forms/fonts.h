@@ -9,6 +9,8 @@
 
 namespace brelt {
 
+// A measure of the display as GetDeviceCaps numbers them; 0 when it can't be asked.
+int DisplayMeasure(int measure) noexcept;
 // The vertical pixels per inch of the display; 96 when it can't be asked.
 int DisplayPixelsPerInch() noexcept;
 

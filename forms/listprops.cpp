@@ -3,7 +3,7 @@
 #include "forms/lists.h"
 #include "forms/property.h"
 #include "frame/library.h"
-#include "graphics/packedbitmap.h"
+#include "graphics/picturememory.h"
 #include "include/brelt.h"
 
 namespace brelt {
@@ -13,6 +13,12 @@ constexpr std::int32_t kNoIndex = -1;
 
 std::int32_t ListCount(const ObjectCall& call) noexcept { return List(call.control()).Count(); }
 
+// An item's place from 0. Wild indexes wrap to a place that no list has.
+std::int32_t ToPlace(std::int32_t index) noexcept {
+  return static_cast<std::int32_t>(static_cast<std::uint32_t>(index) -
+                                   static_cast<std::uint32_t>(Library.OptionBase));
+}
+
 // No selection is -1 with either base.
 std::int32_t ListIndex(const ObjectCall& call) noexcept {
   const std::int32_t index = List(call.control()).Selection();
@@ -20,7 +26,7 @@ std::int32_t ListIndex(const ObjectCall& call) noexcept {
 }
 
 void SetIndex(const ObjectCall& call, std::int32_t index) noexcept {
-  List(call.control()).Select(index == kNoIndex ? kNoIndex : index - Library.OptionBase);
+  List(call.control()).Select(index == kNoIndex ? kNoIndex : ToPlace(index));
 }
 
 constexpr GetRow<std::int32_t> kGetListCount = {
@@ -35,8 +41,8 @@ constexpr SetRow<std::int32_t> kSetListIndex = {
 enum class ItemType { kText, kPicture, kOther };
 
 ItemType TypeOf(const char* type) noexcept {
-  if (rc::EqualIgnoreCase(type, "String")) return ItemType::kText;
-  return rc::EqualIgnoreCase(type, "Tbitmap") ? ItemType::kPicture : ItemType::kOther;
+  if (rc::EqualIgnoreCase(rc::View(type), "String")) return ItemType::kText;
+  return rc::EqualIgnoreCase(rc::View(type), "Tbitmap") ? ItemType::kPicture : ItemType::kOther;
 }
 
 // Stands in the buffer for what doesn't fit.
@@ -51,6 +57,7 @@ std::int32_t FillWholeList(const List& list, rc::TextBuffer out) noexcept {
   for (std::int32_t index = 0; index < count; ++index) {
     const std::int32_t length = list.TextLength(index);
     if (length + 1 > out.room() - at) {
+      out.Zero();
       out.Assign(TooLongMark(list));
       return RTX_OK;
     }
@@ -76,7 +83,7 @@ std::int32_t FillItem(const List& list, std::int32_t index, rc::TextBuffer out) 
 std::int32_t FillPicture(const List& list, std::int32_t index, rc::TextBuffer out) noexcept {
   if (!list.Holds(index)) return RTX_OK;
   const auto* picture = reinterpret_cast<const void*>(list.Data(index));
-  const std::uint32_t size = graphics::PictureSize(picture);
+  const std::uint32_t size = graphics::ReadablePictureSize(picture);
   if (size > 0 && size <= static_cast<std::uint32_t>(out.size())) std::memcpy(out.data(), picture, size);
   return RTX_OK;
 }
@@ -88,11 +95,6 @@ struct ListRequest {
   ItemType type;
 
   bool IsWhole() const noexcept { return index == kWholeList; }
-  // The item's place from 0; out of range where the caller's index is.
-  std::int32_t Place() const noexcept {
-    return static_cast<std::int32_t>(static_cast<std::uint32_t>(index) -
-                                     static_cast<std::uint32_t>(Library.OptionBase));
-  }
   bool IsPictureItem() const noexcept {
     return type == ItemType::kPicture && !IsWhole() && list.IsIconList();
   }
@@ -100,21 +102,27 @@ struct ListRequest {
 
 std::int32_t ReadList(const ListRequest& request, rc::TextBuffer out) noexcept {
   if (request.type == ItemType::kText && request.IsWhole()) return FillWholeList(request.list, out);
-  if (request.type == ItemType::kText) return FillItem(request.list, request.Place(), out);
-  return request.IsPictureItem() ? FillPicture(request.list, request.Place(), out)
+  if (request.type == ItemType::kText) return FillItem(request.list, ToPlace(request.index), out);
+  return request.IsPictureItem() ? FillPicture(request.list, ToPlace(request.index), out)
                                  : std::int32_t{RTX_WRONG_KIND};
 }
 
-// Replaces an item in its place; an icon list keeps the item's picture.
+// Replaces an item in its place; an icon list keeps the item's picture. Where nothing was selected nothing is
+// selected anew: a combo box would empty its field.
 void ReplaceItem(const List& list, std::int32_t index, const char* text) noexcept {
   if (!list.Holds(index)) return;
   const ItemText item = ToItemText(text);
   const std::int32_t selection = list.Selection();
   const LPARAM data = list.IsIconList() ? list.Data(index) : 0;
-  list.Insert(index, item.c_str());
+  if (list.Insert(index, item.c_str()) < 0) return;
   list.Delete(index + 1);
   list.SetData(index, data);
-  list.Select(selection);
+  if (selection >= 0) list.Select(selection);
+}
+
+// Out of range is told apart here: a list box takes the index -1 for all its items.
+void SetPictureOf(const List& list, std::int32_t index, const void* picture) noexcept {
+  if (list.Holds(index)) list.SetData(index, reinterpret_cast<LPARAM>(picture));
 }
 
 std::int32_t WriteList(const ListRequest& request, const void* value) noexcept {
@@ -122,9 +130,9 @@ std::int32_t WriteList(const ListRequest& request, const void* value) noexcept {
   if (request.type == ItemType::kText && request.IsWhole()) {
     FillListItems(list.window(), static_cast<const char*>(value));
   } else if (request.type == ItemType::kText) {
-    ReplaceItem(list, request.Place(), static_cast<const char*>(value));
+    ReplaceItem(list, ToPlace(request.index), static_cast<const char*>(value));
   } else if (request.IsPictureItem()) {
-    list.SetData(request.Place(), reinterpret_cast<LPARAM>(value));
+    SetPictureOf(list, ToPlace(request.index), value);
   } else {
     return RTX_WRONG_KIND;
   }
@@ -149,24 +157,23 @@ int32_t __stdcall SetListIndex(const char* name, int32_t id, int32_t index) {
   return SetProperty(ObjectCall(__func__, name, id), kSetListIndex, index);
 }
 
-// The buffer is cleared whole, since it may get a picture.
 int32_t __stdcall GetList(const char* name, int32_t id, int32_t index, char* text, int32_t size,
                           const char* type) {
-  const rc::TextBuffer out(text, size);
-  out.Zero();
-  const ObjectCall call(__func__, name, id, TextOutput{text, size}, TextInput{type});
+  const BytesOutput<RTX_NULL_ARG> out{text, size};
+  const ObjectCall call(__func__, name, id, out, TextInput{type});
   if (call.code() != RTX_OK) return call.code();
   const List list(call.control());
   if (!list) return Refuse(call);
-  return ReadList({list, index, TypeOf(type)}, out);
+  return ReadList({list, index, TypeOf(type)}, out.bytes());
 }
 
 int32_t __stdcall SetList(const char* name, int32_t id, int32_t index, const void* value, const char* type) {
-  const ObjectCall call(__func__, name, id, TextInput{type});
-  const bool isText = type != nullptr && TypeOf(type) == ItemType::kText;
-  if (name != nullptr && isText && value == nullptr) return RTX_NULL_ARG;
+  const ItemType kind = TypeOf(type);
+  // A text must be given; a picture may be taken away.
+  const TextInput needed{kind == ItemType::kText ? value : type};
+  const ObjectCall call(__func__, name, id, TextInput{type}, needed);
   if (call.code() != RTX_OK) return call.code();
   const List list(call.control());
   if (!list) return Refuse(call);
-  return WriteList({list, index, TypeOf(type)}, value);
+  return WriteList({list, index, kind}, value);
 }

@@ -1,18 +1,13 @@
 // Properties that need no control: drawing position, resolution, page measures, and the flags of a window.
 #include "editwin/edittext.h"
+#include "forms/fonts.h"
 #include "forms/property.h"
-#include "frame/owners.h"
 #include "graphics/canvas.h"
 #include "include/brelt.h"
 #include "printing/printer.h"
 
 namespace brelt {
 namespace {
-
-int DisplayMeasure(int measure) noexcept {
-  const OwnedDc display(CreateICA("DISPLAY", nullptr, nullptr, nullptr));
-  return display ? GetDeviceCaps(display.get(), measure) : 0;
-}
 
 std::int32_t Dpi(const char* name, std::int32_t printerDpi, int measure) noexcept {
   if (name == nullptr) return 0;

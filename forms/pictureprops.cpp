@@ -2,20 +2,14 @@
 #include "forms/property.h"
 #include "graphics/canvas.h"
 #include "graphics/packedbitmap.h"
+#include "graphics/picturememory.h"
 #include "include/brelt.h"
 
 namespace brelt {
 namespace {
 
 // A picture's buffer has a code of its own for a missing one.
-struct PictureOutput {
-  static constexpr std::int32_t kMissing = RTX_BAD_PICTURE;
-  void* buffer;
-  std::int32_t size;
-
-  bool IsMissing() const noexcept { return buffer == nullptr; }
-  void Clear() const noexcept { rc::TextBuffer(static_cast<char*>(buffer), size).Zero(); }
-};
+using PictureOutput = BytesOutput<RTX_BAD_PICTURE>;
 
 bool ShowsPicture(HWND control) noexcept {
   return ClassMatches(control, "Image.*") || ClassMatches(control, "Bitmapbutton.*");
@@ -23,20 +17,11 @@ bool ShowsPicture(HWND control) noexcept {
 
 std::int32_t CopyControlPicture(HWND control, const PictureOutput& out) noexcept {
   const auto* picture = reinterpret_cast<const void*>(SendMessageA(control, CM_GETPICTURE, 0, 0));
-  const std::uint32_t size = graphics::PictureSize(picture);
+  const std::uint32_t size = graphics::ReadablePictureSize(picture);
   if (size == 0) return RTX_OK;
-  if (out.size < 0 || size > static_cast<std::uint32_t>(out.size)) return RTX_PICTURE_BUFFER;
+  if (size > static_cast<std::uint32_t>(out.bytes().size())) return RTX_PICTURE_BUFFER;
   std::memcpy(out.buffer, picture, size);
   return RTX_OK;
-}
-
-// Whether memory can be read and holds a picture.
-bool IsReadablePicture(const void* picture) noexcept {
-  if (IsBadReadPtr(picture, graphics::kOs2HeaderSize)) return false;
-  const std::uint32_t header = graphics::PictureHeaderSize(picture);
-  if (header == 0 || IsBadReadPtr(picture, header)) return false;
-  const std::uint32_t size = graphics::PictureSize(picture);
-  return size > 0 && !IsBadReadPtr(picture, size);
 }
 
 }  // namespace
@@ -75,12 +60,13 @@ int32_t __stdcall GetBitmapInfo(const void* picture, int32_t* width, int32_t* he
       *output = 0;
     }
   }
-  if (!complete || !IsReadablePicture(picture)) return RTX_OK;
+  const uint32_t readable = complete ? graphics::ReadablePictureSize(picture) : 0;
+  if (readable == 0) return RTX_OK;
   const graphics::PictureInfo info = graphics::ReadPictureHeader(picture);
   *width = info.width;
   *height = info.height;
   *bits = info.bits;
-  *size = static_cast<int32_t>(graphics::PictureSize(picture));
+  *size = static_cast<int32_t>(readable);
   *kind = info.kind;
   return RTX_OK;
 }

@@ -82,10 +82,15 @@ Placement WindowPlacement(HWND window, std::int32_t mode) noexcept {
   return placement;
 }
 
+bool IsChildWindow(HWND window) noexcept { return (StyleOf(window) & WS_CHILD) != 0; }
+
+// A child window has its id where others have their menu, and the platform gives it for one.
+bool HasMenuBar(HWND window) noexcept { return !IsChildWindow(window) && GetMenu(window) != nullptr; }
+
 // Gives a client size the outer size that goes with it.
 void WidenToOuter(HWND window, std::int32_t& width, std::int32_t& height) noexcept {
   RECT area = {0, 0, width, height};
-  AdjustWindowRectEx(&area, StyleOf(window), GetMenu(window) != nullptr,
+  AdjustWindowRectEx(&area, StyleOf(window), HasMenuBar(window),
                      static_cast<DWORD>(GetWindowLongA(window, GWL_EXSTYLE)));
   width = area.right - area.left;
   height = area.bottom - area.top;
@@ -100,9 +105,13 @@ void MoveControl(const ObjectCall& call, const Placement& placement) noexcept {
   UpdateWindow(call.window());
 }
 
-void MoveTopWindow(HWND window, std::int32_t mode, Placement placement) noexcept {
+// The place is one on the screen. Only a window that was named by its handle can be a child, whose place the
+// platform counts from its parent.
+void MoveWholeWindow(HWND window, std::int32_t mode, Placement placement) noexcept {
   if (mode == kClientSize) WidenToOuter(window, placement.width, placement.height);
-  MoveWindow(window, placement.x, placement.y, placement.width, placement.height, TRUE);
+  POINT corner = {placement.x, placement.y};
+  if (IsChildWindow(window)) ScreenToClient(GetParent(window), &corner);
+  MoveWindow(window, corner.x, corner.y, placement.width, placement.height, TRUE);
 }
 
 bool IsKnownMode(std::int32_t mode) noexcept { return mode == kClientSize || mode == kOuterSize; }
@@ -126,7 +135,7 @@ std::int32_t WritePosition(const ObjectCall& call, std::int32_t mode, const Plac
   } else if (call.id() != 0) {
     return Refuse(call);
   } else if (IsKnownMode(mode)) {
-    MoveTopWindow(call.window(), mode, placement);
+    MoveWholeWindow(call.window(), mode, placement);
   }
   return RTX_OK;
 }
@@ -134,8 +143,6 @@ std::int32_t WritePosition(const ObjectCall& call, std::int32_t mode, const Plac
 // ---- Limits ----
 
 using Limit = Placement WindowRow::*;
-
-bool IsSet(const Placement& placement) noexcept { return placement.width > 0 && placement.height > 0; }
 
 Placement SystemLimit(const WindowRow& record, Limit limit) noexcept {
   const MINMAXINFO& info = record.systemMinMax;
@@ -160,7 +167,7 @@ void ReduceToClient(HWND window, std::int32_t& width, std::int32_t& height) noex
   width -= 2 * frame.cx;
   height -= 2 * frame.cy;
   if ((StyleOf(window) & WS_CAPTION) == WS_CAPTION) height -= GetSystemMetrics(SM_CYCAPTION);
-  if (GetMenu(window) != nullptr) height -= GetSystemMetrics(SM_CYMENU);
+  if (HasMenuBar(window)) height -= GetSystemMetrics(SM_CYMENU);
   if (width < 0) width = 0;
   if (height < 0) height = 0;
 }
@@ -171,7 +178,7 @@ std::int32_t ReadLimit(const ObjectCall& call, std::int32_t outer, Limit limit,
   if (call.id() != 0) return Refuse(call);
   const WindowRow* record = RecordOf(call.window());
   if (record == nullptr) return RTX_OK;
-  Placement placement = IsSet(record->*limit) ? record->*limit : SystemLimit(*record, limit);
+  Placement placement = (record->*limit).HasSize() ? record->*limit : SystemLimit(*record, limit);
   if (outer == 0) ReduceToClient(call.window(), placement.width, placement.height);
   out.Store(placement);
   return RTX_OK;

@@ -20,16 +20,17 @@ struct PropertyRow {
   };
 
   Function window = nullptr;
+  Function editWindow = nullptr;  // where edit windows alone answer
   Control controls[kControlKinds] = {};
   Function menuItem = nullptr;
 
   // What answers for the object of a call; null where nothing does.
   Function Choose(const ObjectCall& call) const noexcept {
-    if (call.id() == 0) return window;
+    if (call.id() == 0) return IsAnyEditwindow(call.window()) && editWindow != nullptr ? editWindow : window;
     if (call.control() == nullptr) return menuItem != nullptr && call.IsMenuItem() ? menuItem : nullptr;
+    const ClassName className = ClassNameOf(call.control());
     for (const Control& control : controls) {
-      if (control.function != nullptr && ClassMatches(call.control(), control.classPattern))
-        return control.function;
+      if (TextMatches(control.classPattern, className.c_str(), kIgnoreCase)) return control.function;
     }
     return nullptr;
   }
@@ -74,6 +75,8 @@ std::int32_t ActOnProperty(const ObjectCall& call, const ActRow<Value>& row, Val
   const auto act = row.Choose(call);
   return act != nullptr ? act(call, value) : Refuse(call);
 }
+
+inline std::uint8_t Truth(bool value) noexcept { return value ? 1 : 0; }
 
 // Has a window painted anew after a change.
 inline void Repaint(HWND window, bool erase = true) noexcept {

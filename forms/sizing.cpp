@@ -6,8 +6,6 @@
 namespace brelt {
 namespace {
 
-bool IsSet(const Placement& placement) noexcept { return placement.width > 0 && placement.height > 0; }
-
 bool IsUnset(const MINMAXINFO& info) noexcept {
   return info.ptMaxSize.x == 0 && info.ptMaxPosition.x == 0 && info.ptMinTrackSize.x == 0 &&
          info.ptMaxTrackSize.x == 0;
@@ -55,13 +53,13 @@ LRESULT OnGetMinMaxInfo(const Message& message) noexcept {
   if (IsUnset(record->systemMinMax)) record->systemMinMax = *info;
   const Placement& most = record->maxPosition;
   const Placement& least = record->minPosition;
-  if (IsSet(most)) {
+  if (most.HasSize()) {
     info->ptMaxSize = {most.width, most.height};
     info->ptMaxTrackSize = info->ptMaxSize;
     info->ptMaxPosition = {most.x, most.y};
   }
-  if (IsSet(least)) info->ptMinTrackSize = {least.width, least.height};
-  if (IsSet(most) && IsIconic(message.window)) {
+  if (least.HasSize()) info->ptMinTrackSize = {least.width, least.height};
+  if (most.HasSize() && IsIconic(message.window)) {
     // Of an icon the platform takes the position from the work area's corner.
     RECT workArea = {};
     SystemParametersInfoA(SPI_GETWORKAREA, 0, &workArea, 0);

@@ -9,8 +9,6 @@ UINT MenuItemState(const ObjectCall& call) noexcept {
   return GetMenuState(call.menu(), static_cast<UINT>(call.id()), MF_BYCOMMAND);
 }
 
-std::uint8_t Truth(bool value) noexcept { return value ? 1 : 0; }
-
 // ---- Checked: menu items only; controls have a value ----
 
 constexpr GetRow<std::uint8_t> kGetChecked = {.menuItem = [](const ObjectCall& call) noexcept {

@@ -46,6 +46,18 @@ struct TextOutput {
   void Clear() const noexcept { rc::TextBuffer(buffer, size).Clear(); }
 };
 
+// A buffer that may get a picture and is cleared whole.
+template <std::int32_t Missing>
+struct BytesOutput {
+  static constexpr std::int32_t kMissing = Missing;
+  void* buffer;
+  std::int32_t size;
+
+  bool IsMissing() const noexcept { return buffer == nullptr; }
+  void Clear() const noexcept { bytes().Zero(); }
+  rc::TextBuffer bytes() const noexcept { return {static_cast<char*>(buffer), size}; }
+};
+
 // A text, array or picture that comes in.
 template <std::int32_t Missing>
 struct Input {

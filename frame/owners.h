@@ -44,6 +44,7 @@ inline void ReleaseModule(HMODULE module) noexcept { FreeLibrary(module); }
 inline void ReleaseMenu(HMENU menu) noexcept { DestroyMenu(menu); }
 inline void ReleaseWindow(HWND window) noexcept { DestroyWindow(window); }
 inline void ReleaseContext(HDC dc) noexcept { DeleteDC(dc); }
+inline void ReleaseGlobal(HGLOBAL block) noexcept { GlobalFree(block); }
 
 using OwnedFont = Owned<HFONT, ReleaseFont>;
 using OwnedBitmap = Owned<HBITMAP, ReleaseBitmap>;
@@ -55,6 +56,8 @@ using OwnedMenu = Owned<HMENU, ReleaseMenu>;
 using OwnedWindow = Owned<HWND, ReleaseWindow>;
 // A context that was made, by CreateDC, CreateIC or CreateCompatibleDC.
 using OwnedDc = Owned<HDC, ReleaseContext>;
+// Memory that can go to the clipboard. What the library keeps itself is a host::Block.
+using OwnedGlobal = Owned<HGLOBAL, ReleaseGlobal>;
 
 // Selects an object into a context and puts the one before back.
 class Selected {

@@ -58,7 +58,7 @@ ClassName ClassNameOf(HWND window) noexcept {
 }
 
 bool TextMatches(const char* pattern, const char* text, int mode) noexcept {
-  return pattern != nullptr && text != nullptr && PatternMatches(pattern, text, mode == 1);
+  return pattern != nullptr && text != nullptr && PatternMatches(pattern, text, mode == kIgnoreCase);
 }
 
 bool ClassMatches(HWND window, const char* pattern) noexcept {

@@ -50,6 +50,8 @@ struct Placement {
   std::int32_t y;
   std::int32_t width;
   std::int32_t height;
+
+  bool HasSize() const noexcept { return width > 0 && height > 0; }
 };
 
 // One row of a WindowRecord: row 0 describes the window, each further one a control by its first five fields.
@@ -120,8 +122,9 @@ using ClassName = rc::FixedText<32>;
 ClassName ClassNameOf(HWND window) noexcept;
 
 // A pattern with a leading "*" matches the end of a text, one with a trailing "*" its beginning, any other
-// the whole. The leading star is looked at first, so one with both is a tail that ends in a star. ignoreCase
-// is mode 1.
+// the whole. The leading star is looked at first, so one with both is a tail that ends in a star. Any mode
+// but kIgnoreCase is exact.
+inline constexpr int kIgnoreCase = 1;
 bool TextMatches(const char* pattern, const char* text, int mode) noexcept;
 // The same for the class of a window, ignoring case; false without a window or a pattern.
 bool ClassMatches(HWND window, const char* pattern) noexcept;

@@ -17,10 +17,13 @@ done
 
 # ---- The Windows side ----
 
-# Loading forms, with the program and the server it talks to on one processor.
+# Loading forms and property calls, with the program and the server it talks to on one processor.
 bench_windows() {
-  build_preset win32 load_bench brelt
+  local program
+  build_preset win32 "$@" brelt
   . scripts/wine.sh
-  WINE_PROCESSOR=$(($(nproc) - 1)) wine_run null build/win32/bin/load_bench.exe | tr -d '\r'
+  for program in "$@"; do
+    WINE_PROCESSOR=$(($(nproc) - 1)) wine_run null "build/win32/bin/$program.exe" | tr -d '\r'
+  done
 }
-bench_windows
+bench_windows load_bench property_bench
