@@ -5,6 +5,8 @@
 namespace brelt {
 
 void FillListItems(HWND control, const char* text) noexcept {
+  // The platform takes no window for all windows when it is told to draw one.
+  if (control == nullptr) return;
   const bool isCombo = ClassMatches(control, "COMBOBOX");
   const UINT add = isCombo ? CB_ADDSTRING : LB_ADDSTRING;
   SendMessageA(control, WM_SETREDRAW, FALSE, 0);

@@ -47,9 +47,8 @@ void WriteSlot(HWND window, int slot, LONG value) noexcept {
   WNDCLASSEXA info = {};
   info.cbSize = sizeof info;
   if (!GetClassInfoExA(instance, name, &info) || info.cbWndExtra != kSlotBytes) return;
-  const int index = slot * 4;
-  if (index < 0 || index > kSlotBytes - 4) return;
-  SetWindowLongA(window, index, value);
+  if (slot < 0 || slot >= kSlotBytes / 4) return;
+  SetWindowLongA(window, slot * 4, value);
 }
 
 ClassName ClassNameOf(HWND window) noexcept {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <climits>
 #include <string>
 #include <vector>
 
@@ -13,9 +14,9 @@ namespace brelt::test {
 
 class GuardedBuffer {
  public:
-  // The bytes start as something that is neither zero nor text.
+  // The bytes start as something that is neither zero nor text. A size below 0 has the guard bytes alone.
   explicit GuardedBuffer(int size)
-      : size_(size), bytes_(static_cast<std::size_t>(size + 2 * kGuard), kFill) {}
+      : size_(std::max(size, 0)), bytes_(static_cast<std::size_t>(size_ + 2 * kGuard), kFill) {}
 
   rc::TextBuffer buffer() { return {bytes_.data() + kGuard, size_}; }
   char* data() { return bytes_.data() + kGuard; }
@@ -68,6 +69,22 @@ void ExpectCutToFit(const std::string& full, Write write, Behind behind = Behind
     }
   }
   write(rc::TextBuffer());
+}
+
+// The same for a call that takes a pointer and a size as a program passes them, so that the sizes below 1
+// reach it with a pointer: nothing may be written then.
+template <typename Call>
+void ExpectCallCutToFit(const std::string& full, Call call) {
+  const int length = static_cast<int>(full.size());
+  for (const int size : {INT_MIN, -1, 0, 1, 2, length - 1, length, length + 1, length + 2, length + 40}) {
+    SCOPED_TRACE(::testing::Message() << "buffer of " << size);
+    GuardedBuffer guarded(size);
+    call(guarded.data(), size);
+    EXPECT_TRUE(guarded.IsIntact());
+    if (size < 1) continue;
+    EXPECT_EQ(guarded.Text(), full.substr(0, static_cast<std::size_t>(size) - 1));
+  }
+  call(nullptr, length + 1);
 }
 
 }  // namespace brelt::test

@@ -19,6 +19,13 @@ std::string ReadTestFile(const std::string& path) {
   return bytes.str();
 }
 
+std::string ProgramFolder() {
+  char path[MAX_PATH] = "";
+  GetModuleFileNameA(nullptr, path, MAX_PATH);
+  const std::string whole = path;
+  return whole.substr(0, whole.find_last_of("\\/") + 1);
+}
+
 LoadResult LoadText(const std::string& name, const std::string& rcText, EventFunction function) {
   const std::string path = WriteTestFile(name + ".rc", rcText);
   LoadResult result{0, "", nullptr};

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "tests/win32/support/events.h"
 
@@ -15,6 +16,8 @@ namespace brelt::test {
 std::string TestFolder();                                                      // with a separator at its end
 std::string WriteTestFile(const std::string& name, const std::string& bytes);  // gives the full path
 std::string ReadTestFile(const std::string& path);
+// The folder of the running program, with a separator at its end.
+std::string ProgramFolder();
 
 struct LoadResult {
   int32_t code;

@@ -1,5 +1,7 @@
 #include "tests/win32/support/imports.h"
 
+#include <gtest/gtest.h>
+
 #include <cstring>
 
 namespace brelt::test {
@@ -37,7 +39,11 @@ void Store(void** slot, void* function) {
 
 ReplacedImport::ReplacedImport(const char* function, void* replacement)
     : slot_(FindImport(function)), original_(slot_ != nullptr ? *slot_ : nullptr) {
-  if (slot_ != nullptr) Store(slot_, replacement);
+  if (slot_ != nullptr) {
+    Store(slot_, replacement);
+  } else {
+    ADD_FAILURE() << "brelt.dll doesn't import " << function;
+  }
 }
 
 ReplacedImport::~ReplacedImport() {
