@@ -16,29 +16,51 @@ std::uint64_t Now() noexcept {
   return std::uint64_t{units.dwHighDateTime} << 32 | units.dwLowDateTime;
 }
 
-// Waits for the next character; false when the time is up. It waits actively: the rest was posted with the
-// first.
-bool NextCharacter(HWND window, std::uint64_t start, char& character) noexcept {
-  while (Now() - start <= kWaitUnits) {
-    MSG next;
-    if (!PeekMessageA(&next, window, XM_COMMANDCHAR, XM_COMMANDCHAR, PM_REMOVE | PM_NOYIELD)) continue;
-    character = static_cast<char>(next.lParam);
-    return true;
+// The characters that follow a text's first one.
+class CharacterQueue {
+ public:
+  explicit CharacterQueue(HWND window) noexcept : window_(window) {}
+  CharacterQueue(const CharacterQueue&) = delete;
+  CharacterQueue& operator=(const CharacterQueue&) = delete;
+  ~CharacterQueue() {
+    if (quits_) PostQuitMessage(exitCode_);
   }
-  return false;
-}
+
+  // Waits for the next character; false when the time is up. It waits actively: the rest was posted with the
+  // first.
+  bool Next(char& character) noexcept {
+    while (Now() - start_ <= kWaitUnits) {
+      MSG next;
+      if (!PeekMessageA(&next, window_, XM_COMMANDCHAR, XM_COMMANDCHAR, PM_REMOVE | PM_NOYIELD)) continue;
+      if (next.message == XM_COMMANDCHAR) {
+        character = static_cast<char>(next.lParam);
+        return true;
+      }
+      // WM_QUIT passes any filter. It is the loop's and goes back when the text is complete.
+      quits_ = true;
+      exitCode_ = static_cast<int>(next.wParam);
+    }
+    return false;
+  }
+
+ private:
+  const std::uint64_t start_ = Now();
+  HWND window_;
+  bool quits_ = false;
+  int exitCode_ = 0;
+};
 
 }  // namespace
 
 LRESULT OnCommandChar(const Message& message) noexcept {
-  const std::uint64_t start = Now();
+  CharacterQueue queue(message.window);
   rc::FixedText<259> text;
   rc::TextWriter writer(text);
   char character = static_cast<char>(message.lParam);
   do {
     if (character == '\0') break;
     writer.Append(character);
-  } while (NextCharacter(message.window, start, character));
+  } while (queue.Next(character));
   if (IsWindowEnabled(message.window) && !writer.IsEmpty()) {
     RaiseEvent(message.window, EV_CLICK, static_cast<std::uint32_t>(message.wParam),
                reinterpret_cast<std::int32_t>(text.c_str()));

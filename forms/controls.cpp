@@ -169,18 +169,16 @@ OwnedModule ControlMaker::SettleClass(ResourceRecord& record, ClassName& windowC
 
 // Looks in the program's folder and then in the Windows folder.
 OwnedModule ControlMaker::LoadModule(const ResourceRecord& record, const char* moduleFile) noexcept {
-  constexpr UINT_PTR kLowestModule = 33;  // lower results are error numbers on old systems
-  host::Path path;
-  path.Format("%s%s", source_.programFolder, moduleFile);
-  HMODULE module = LoadLibraryA(path.c_str());
-  if (module == nullptr) {
-    host::Path folder;
-    GetWindowsDirectoryA(folder.data(), static_cast<UINT>(folder.buffer().size()));
-    if (!folder.view().ends_with('\\')) folder.Append("\\");
-    path.Format("%s%s", folder.c_str(), moduleFile);
-    module = LoadLibraryA(path.c_str());
+  host::Path windowsFolder;
+  GetWindowsDirectoryA(windowsFolder.data(), static_cast<UINT>(windowsFolder.buffer().size()));
+  if (!windowsFolder.view().ends_with('\\')) windowsFolder.Append("\\");
+  for (const char* folder : {source_.programFolder, windowsFolder.c_str()}) {
+    constexpr UINT_PTR kLowestModule = 33;  // lower results are error numbers on old systems
+    host::Path path;
+    path.Format("%s%s", folder, moduleFile);
+    HMODULE module = LoadLibraryA(path.c_str());
+    if (reinterpret_cast<UINT_PTR>(module) >= kLowestModule) return OwnedModule(module);
   }
-  if (reinterpret_cast<UINT_PTR>(module) >= kLowestModule) return OwnedModule(module);
   failure_.Format(RTX_CONTROL_DLL, "Dialog <%-.*s>, Control Type <%-.*s>, Cannot load DLL <%-.*s>",
                   rc::kNameLength, DialogName(), rc::kNameLength, record.className.c_str(),
                   rc::kShownPathLength, OrQuestionMark(moduleFile));

@@ -108,12 +108,16 @@ void OpenMenuBar(HWND window, LPARAM key) noexcept {
   SendMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, key);
 }
 
+// Turns the highlight of an item of the menu bar on or off.
+void Highlight(HWND window, UINT command, UINT how) noexcept {
+  HiliteMenuItem(window, GetMenu(window), command, MF_BYCOMMAND | how);
+}
+
 void SendCommand(HWND window, const rc::AcceleratorRow& row) noexcept {
-  HMENU menu = GetMenu(window);
   const bool inverts = (row.Flags & rc::kAccelNoInvert) == 0;
-  if (inverts) HiliteMenuItem(window, menu, row.Command, MF_BYCOMMAND | MF_HILITE);
+  if (inverts) Highlight(window, row.Command, MF_HILITE);
   SendMessageA(window, WM_COMMAND, row.Command, 0);
-  if (inverts && IsWindow(window)) HiliteMenuItem(window, menu, row.Command, MF_BYCOMMAND | MF_UNHILITE);
+  if (inverts && IsWindow(window)) Highlight(window, row.Command, MF_UNHILITE);
 }
 
 // Whether the key is one of the table's. One whose item is grey or gone is used up without effect.

@@ -60,7 +60,7 @@ void ReactivatePrevious(HWND window) noexcept {
 }
 
 void ShowInPlace(HWND window) noexcept {
-  SetWindowPos(window, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_SHOWWINDOW);
+  SetWindowPos(window, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_SHOWWINDOW);
   UpdateWindow(window);
 }
 

@@ -26,7 +26,7 @@ void LeaveModal(HWND window, const ModalSet& set) noexcept;
 // so that no window of another program comes to the front.
 void ReactivatePrevious(HWND window) noexcept;
 
-// Shows a window where it stands and has it painted.
+// Shows a window where it stands, above the others, and has it painted.
 void ShowInPlace(HWND window) noexcept;
 
 }  // namespace brelt

@@ -6,15 +6,18 @@
 namespace brelt {
 namespace {
 
-// Where a scroll code leads from a position; thumb positions are signed words.
-int ScrolledTo(WORD code, WORD thumb, int position, int low, int high) noexcept {
-  const int page = (high - low) / 20;
-  const auto within = [&](int wanted) { return wanted < low ? low : wanted > high ? high : wanted; };
+// Where a scroll code leads from a position; thumb positions are signed words. The steps are taken in 64
+// bits, since a range can reach over all 32-bit numbers.
+int ScrolledTo(WORD code, WORD thumb, int position, std::int64_t low, std::int64_t high) noexcept {
+  const std::int64_t page = (high - low) / 20;
+  const auto within = [&](std::int64_t wanted) {
+    return static_cast<int>(wanted < low ? low : wanted > high ? high : wanted);
+  };
   switch (code) {
     case SB_LINEUP:
-      return within(position - 1);
+      return within(std::int64_t{position} - 1);
     case SB_LINEDOWN:
-      return within(position + 1);
+      return within(std::int64_t{position} + 1);
     case SB_PAGEUP:
       return within(position - page);
     case SB_PAGEDOWN:
@@ -23,9 +26,9 @@ int ScrolledTo(WORD code, WORD thumb, int position, int low, int high) noexcept 
     case SB_THUMBTRACK:
       return static_cast<SHORT>(thumb);
     case SB_TOP:
-      return low;
+      return within(low);
     case SB_BOTTOM:
-      return high;
+      return within(high);
     default:
       return position;
   }

@@ -87,10 +87,13 @@ HWND CreateTooltip(HWND window) noexcept {
   return tooltip;
 }
 
-// The size of a text without wrapping; a line end at its end isn't measured.
+// The size of a text without wrapping; one line end at its end isn't measured.
 SIZE MeasureHint(HintText text) noexcept {
   std::string_view measured = text.view();
-  while (measured.ends_with('\n') || measured.ends_with('\r')) measured.remove_suffix(1);
+  if (measured.ends_with('\n')) {
+    measured.remove_suffix(1);
+    if (measured.ends_with('\r')) measured.remove_suffix(1);
+  }
   text.Assign(measured);
   const WindowDc screen(nullptr);
   const Selected font(screen.get(), GetStockObject(ANSI_VAR_FONT));

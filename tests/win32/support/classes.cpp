@@ -17,6 +17,15 @@ TestClass::TestClass(const std::string& name, int windowExtra, UINT style, WNDPR
 
 TestClass::~TestClass() { EXPECT_TRUE(UnregisterClassA(name_.c_str(), GetModuleHandleA(nullptr))) << name_; }
 
+HWND TestClass::MakeChild(HWND parent, int id, int x, int y, DWORD style) const {
+  constexpr int kWidth = 50;
+  constexpr int kHeight = 20;
+  const HWND child = CreateWindowExA(0, name(), "", WS_CHILD | WS_VISIBLE | style, x, y, kWidth, kHeight,
+                                     parent, reinterpret_cast<HMENU>(id), GetModuleHandleA(nullptr), nullptr);
+  EXPECT_TRUE(child) << name_;
+  return child;
+}
+
 TestWindow::TestWindow(const char* className, const std::string& title, DWORD style, HWND parent)
     : window_(CreateWindowExA(0, className, title.c_str(), style, 0, 0, 50, 50, parent, nullptr,
                               GetModuleHandleA(nullptr), nullptr)) {

@@ -17,6 +17,8 @@ class TestClass {
   ~TestClass();
 
   const char* name() const { return name_.c_str(); }
+  // A visible child, 50 by 20 pixels; its parent destroys it.
+  HWND MakeChild(HWND parent, int id, int x = 0, int y = 0, DWORD style = 0) const;
 
  private:
   std::string name_;

@@ -1,5 +1,7 @@
 #include "tests/win32/support/events.h"
 
+#include <algorithm>
+#include <cstdio>
 #include <map>
 #include <ostream>
 
@@ -51,6 +53,53 @@ int EventLog::Count(uint32_t number) const {
   int count = 0;
   for (const Event& event : events) count += event.event == number ? 1 : 0;
   return count;
+}
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+Lines LinesOf(const std::vector<Event>& events) {
+  Lines lines;
+  for (const Event& event : events) lines.push_back(ToText(event));
+  return lines;
+}
+
+Lines LinesOf(const std::vector<WindowEvent>& events) {
+  Lines lines;
+  for (const WindowEvent& event : events) {
+    char window[16];
+    std::snprintf(window, sizeof window, "%p ", static_cast<void*>(event.window));
+    lines.push_back(window + ToText(event.event));
+  }
+  return lines;
+}
+
+::testing::AssertionResult CompareColumns(const Lines& expected, const Lines& heard) {
+  if (expected == heard) return ::testing::AssertionSuccess();
+  ::testing::AssertionResult failure = ::testing::AssertionFailure();
+  failure << "\n   expected                                  heard\n";
+  for (std::size_t i = 0; i < std::max(expected.size(), heard.size()); ++i) {
+    const std::string left = i < expected.size() ? expected[i] : "-";
+    const std::string right = i < heard.size() ? heard[i] : "-";
+    failure << (left == right ? "   " : " ! ") << left
+            << std::string(left.size() < 41 ? 41 - left.size() : 1, ' ') << " " << right << "\n";
+  }
+  return failure;
+}
+
+}  // namespace
+
+::testing::AssertionResult Heard(const std::vector<Event>& expected) {
+  return CompareColumns(LinesOf(expected), LinesOf(Log().events));
+}
+
+::testing::AssertionResult Heard(const std::vector<WindowEvent>& expected) {
+  std::vector<WindowEvent> heard;
+  for (std::size_t i = 0; i < Log().events.size(); ++i) {
+    heard.push_back({Log().windows[i], Log().events[i]});
+  }
+  return CompareColumns(LinesOf(expected), LinesOf(heard));
 }
 
 EventLog& Log() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <brelt.h>
+#include <gtest/gtest.h>
 
 #include <functional>
 #include <string>
@@ -35,6 +36,23 @@ struct EventLog {
   int Count(uint32_t number) const;
 };
 EventLog& Log();
+
+// An event and the window that raised it.
+struct WindowEvent {
+  HWND window;
+  Event event;
+
+  bool operator==(const WindowEvent&) const = default;
+};
+
+// Whether exactly these events were heard since the log was cleared, in this order. A failure shows what was
+// expected and what was heard side by side.
+::testing::AssertionResult Heard(const std::vector<Event>& expected);
+::testing::AssertionResult Heard(const std::vector<WindowEvent>& expected);
+
+// A handle or a pair of words as an event carries it in lParam.
+inline int32_t AsParam(const void* pointer) { return reinterpret_cast<int32_t>(pointer); }
+inline int32_t AsPoint(int x, int y) { return MAKELONG(x, y); }
 
 // The event function for Load and Show: records and asks onEvent.
 int32_t __stdcall RecordEvent(HWND window, uint32_t event, uint32_t wParam, int32_t lParam);

@@ -40,12 +40,36 @@ LoadResult LoadDialog(const std::string& name, const std::string& controls, cons
   return LoadText(name, name + " DIALOG 10, 10, 200, 150\n" + statements + "BEGIN\n" + controls + "\nEND\n");
 }
 
+int32_t ShowForm(const std::string& name, bool modal, int32_t* result) {
+  return Show(GetModuleHandleA(nullptr), name.c_str(), "unused.rc", RecordEvent, nullptr, modal ? 1 : 0,
+              result);
+}
+
+HWND LoadShown(const std::string& name, const std::string& controls, const std::string& statements) {
+  const LoadResult form = LoadDialog(name, controls, statements);
+  EXPECT_EQ(form.code, RTX_OK) << form.message;
+  EXPECT_EQ(ShowForm(name), RTX_OK);
+  Pump();
+  Log().Clear();
+  return form.window;
+}
+
+namespace {
+
+int pumps = 0;
+
+}  // namespace
+
+bool IsPumping() { return pumps > 0; }
+
 void Pump() {
+  ++pumps;
   MSG message;
   while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
     TranslateMessage(&message);
     DispatchMessageA(&message);
   }
+  --pumps;
 }
 
 bool PumpUntil(const std::function<bool()>& condition, DWORD milliseconds) {

@@ -30,8 +30,15 @@ LoadResult LoadText(const std::string& name, const std::string& rcText, EventFun
 LoadResult LoadDialog(const std::string& name, const std::string& controls,
                       const std::string& statements = "STYLE WS_POPUP | WS_CAPTION | WS_SYSMENU\n");
 
+// Loads and shows a DIALOG, handles what that brings, and clears the event log.
+HWND LoadShown(const std::string& name, const std::string& controls,
+               const std::string& statements = "STYLE WS_POPUP | WS_CAPTION | WS_SYSMENU\n");
+// Shows a loaded window as a program does.
+int32_t ShowForm(const std::string& name, bool modal = false, int32_t* result = nullptr);
+
 // Handles waiting messages as MainLoop does not: just dispatches.
 void Pump();
+bool IsPumping();
 // Pumps until a condition holds; false when it doesn't within the time.
 bool PumpUntil(const std::function<bool()>& condition, DWORD milliseconds = 5000);
 

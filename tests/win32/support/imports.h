@@ -24,8 +24,8 @@ class ReplacedImport {
   void* original_;
 };
 
-// Replaces an import by one that counts its calls, and returns nothing but zero at one of them. Tag keeps two
-// functions of the same form apart: CountedImport<struct Alloc, HGLOBAL, UINT, SIZE_T>
+// Replaces an import by one that counts its calls, and fails at one of them without doing anything. Tag keeps
+// two functions of the same form apart: CountedImport<struct Alloc, HGLOBAL, UINT, SIZE_T>
 // allocations("GlobalAlloc", 3). One at a time of each form.
 template <typename Tag, typename Result, typename... Arguments>
 class CountedImport {
@@ -33,10 +33,10 @@ class CountedImport {
   static constexpr int kNever = 0;
   static constexpr int kAlways = -1;
 
-  // failAt is the number of the call that fails, from 1.
-  explicit CountedImport(const char* function, int failAt = kNever)
+  // failAt is the number of the call that fails, from 1; failure what it returns then.
+  explicit CountedImport(const char* function, int failAt = kNever, Result failure = {})
       : import_(function, reinterpret_cast<void*>(&Call)) {
-    state = {reinterpret_cast<Function>(import_.original()), 0, failAt};
+    state = {reinterpret_cast<Function>(import_.original()), 0, failAt, failure};
   }
 
   int calls() const { return state.calls; }
@@ -49,11 +49,12 @@ class CountedImport {
     Function original;
     int calls;
     int failAt;
+    Result failure;
   };
 
   static Result WINAPI Call(Arguments... arguments) {
     const bool fails = ++state.calls == state.failAt || state.failAt == kAlways;
-    return fails ? Result{} : state.original(arguments...);
+    return fails ? state.failure : state.original(arguments...);
   }
 
   static inline State state = {};

@@ -1,5 +1,7 @@
 #include "tests/win32/support/spy.h"
 
+#include <cstring>
+
 namespace brelt::test {
 namespace {
 
@@ -36,11 +38,12 @@ LRESULT CALLBACK MessageSpy::OnSent(int code, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT CALLBACK MessageSpy::OnComputerTraining(int code, WPARAM wParam, LPARAM lParam) {
-  if (code == HCBT_CREATEWND && current != nullptr) {
-    const auto window = reinterpret_cast<HWND>(wParam);
+  const auto window = reinterpret_cast<HWND>(wParam);
+  char className[256] = "";
+  GetClassNameA(window, className, sizeof className);
+  // The platform's own window for input comes and goes with the program's.
+  if (code == HCBT_CREATEWND && current != nullptr && std::strcmp(className, "IME") != 0) {
     const CREATESTRUCTA& made = *reinterpret_cast<const CBT_CREATEWNDA*>(lParam)->lpcs;
-    char className[256] = "";
-    GetClassNameA(window, className, sizeof className);
     current->creations_.push_back({window, className, made.lpszName != nullptr ? made.lpszName : "",
                                    static_cast<DWORD>(made.style), made.dwExStyle, made.x, made.y, made.cx,
                                    made.cy, made.hwndParent, made.hMenu, made.hInstance,
