@@ -52,8 +52,11 @@ void MeasureItems(const List& list, ColumnWidths& widths) noexcept {
   ItemText item;
   const std::int32_t count = list.Count();
   for (std::int32_t index = 0; index < count; ++index) {
-    if (list.TextLength(index) > ItemText::kCapacity) continue;
+    const std::int32_t length = list.TextLength(index);
+    if (length > ItemText::kCapacity) continue;
     list.CopyText(index, item.data());
+    // A list without texts of its own gives its items' data, which nothing ends.
+    item.data()[length] = '\0';
     widths.Measure(item.view());
   }
   if (!list.IsIconList()) return;
@@ -65,6 +68,7 @@ void MeasureItems(const List& list, ColumnWidths& widths) noexcept {
 void Align(const List& list) noexcept {
   if (list.Count() == 0) return;
   const WindowDc dc(list.window());
+  if (!dc) return;
   auto* font = reinterpret_cast<HFONT>(SendMessageA(list.window(), WM_GETFONT, 0, 0));
   const Selected selected(dc.get(),
                           font != nullptr ? static_cast<HGDIOBJ>(font) : GetStockObject(SYSTEM_FONT));

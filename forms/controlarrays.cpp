@@ -165,7 +165,7 @@ int32_t __stdcall Controlarray(const char* name, int32_t id, int32_t index, int3
 
 int32_t __stdcall Controlarraypos(const char* name, int32_t id, const char* memberName, int32_t memberId,
                                   int32_t* index) {
-  const ObjectCall call(__func__, name, id, NumberOutput{index, kNone}, TextInput{memberName});
+  const ObjectCall call(__func__, name, id, TextInput{memberName}, NumberOutput{index, kNone});
   if (call.code() != RTX_OK) return call.code();
   HWND memberWindow = ResolveName(memberName);
   if (memberWindow == nullptr) return RTX_NO_WINDOW;

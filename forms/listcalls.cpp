@@ -23,7 +23,7 @@ std::int32_t PlaceOf(std::int32_t index) noexcept {
 }
 
 // The selection keeps its number, also when the item that had it moves: programs set it themselves if they
-// mind.
+// mind. Where nothing was selected nothing is selected anew: a combo box would empty its field.
 void Add(const List& list, std::int32_t index, const char* text, const void* picture) noexcept {
   const std::int32_t place = PlaceOf(index);
   if (index != kAppend && (place < 0 || place > list.Count())) return;
@@ -31,7 +31,7 @@ void Add(const List& list, std::int32_t index, const char* text, const void* pic
   const std::int32_t selection = list.Selection();
   const std::int32_t added = index == kAppend ? list.Append(item.c_str()) : list.Insert(place, item.c_str());
   if (list.IsIconList() && added >= 0) list.SetData(added, reinterpret_cast<LPARAM>(picture));
-  list.Select(selection);
+  if (selection >= 0) list.Select(selection);
 }
 
 void Remove(const List& list, std::int32_t place) noexcept {

@@ -139,14 +139,25 @@ void Tracker::DrawBand() noexcept {
   Rectangle(dc, band.left, band.top, band.right, band.bottom);
 }
 
+// Has the window's painting on the screen at once. It may be kept back until the thread has looked for a
+// message and found none, and would then cover what is drawn on the screen meanwhile.
+void ShowPainting() noexcept {
+  constexpr UINT kUnused = 0xBFFF;
+  MSG none;
+  PeekMessageA(&none, nullptr, kUnused, kUnused, PM_NOREMOVE);
+}
+
 void Tracker::RepaintArea(const Box& area) noexcept {
   RECT client = ToRect(area);
   MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&client), 2);
   InvalidateRect(window_, &client, TRUE);
   UpdateWindow(window_);
+  ShowPainting();
 }
 
 void Tracker::StartDrag(int handle, Point mouse) noexcept {
+  // A press without a release before it begins anew.
+  if (dragging_) DrawBand();
   drag_ = {handle, mouse, box_, settings_.minWidth, settings_.minHeight};
   band_ = box_;
   dragging_ = true;
@@ -180,30 +191,32 @@ void Tracker::FinishDrag() noexcept {
   DrawFrame();
 }
 
-void Remove(const MSG& message) noexcept {
-  MSG removed;
-  PeekMessageA(&removed, message.hwnd, message.message, message.message, PM_REMOVE);
+// Takes a message out of the queue and gives the place of the mouse. A move may have gone on since it was
+// seen: the platform joins moves that wait.
+Point Take(const MSG& seen) noexcept {
+  MSG taken = seen;
+  PeekMessageA(&taken, seen.hwnd, seen.message, seen.message, PM_REMOVE);
+  return ToPoint(taken.pt);
 }
 
 // Takes a message that waits in the queue, or leaves it there; false ends the tracking.
 bool Tracker::OnMessage(const MSG& message) noexcept {
-  const Point mouse = ToPoint(message.pt);
   switch (message.message) {
     case WM_TIMER:
-      Remove(message);
+      Take(message);
       return true;
     case WM_MOUSEMOVE:
-      Remove(message);
-      OnMouseMove(mouse);
+      OnMouseMove(Take(message));
       return true;
-    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDOWN: {
       // A press outside is the program's.
-      if (!box_.Holds(mouse)) return false;
-      Remove(message);
+      if (!box_.Holds(ToPoint(message.pt))) return false;
+      const Point mouse = Take(message);
       StartDrag(Hit(mouse), mouse);
       return true;
+    }
     case WM_LBUTTONUP:
-      Remove(message);
+      Take(message);
       FinishDrag();
       return (settings_.flags & kEndAtRelease) == 0;
     default:
@@ -217,10 +230,14 @@ Box Tracker::Run() noexcept {
   ShowCursorAt(start);
   SetCapture(window_);
   if (const int handle = Hit(start); handle != graphics::kNoHandle) StartDrag(handle, start);
+  // Waiting is for messages that come, so what is there is looked at first.
   for (bool going = true; going;) {
-    WaitMessage();
     MSG message;
-    if (PeekMessageA(&message, nullptr, 0, WM_USER, PM_NOREMOVE)) going = OnMessage(message);
+    if (PeekMessageA(&message, nullptr, 0, WM_USER, PM_NOREMOVE)) {
+      going = OnMessage(message);
+    } else {
+      WaitMessage();
+    }
   }
   // A drag that another message broke off doesn't count.
   if (dragging_) DrawBand();
@@ -257,6 +274,8 @@ bool Track(HWND window, const TrackSettings& settings, const TrackedRect& rect) 
   Tracker tracker(window, settings, ToScreen(window, *rect.x, *rect.y, *rect.width, *rect.height));
   if (!tracker.IsReady()) return false;
   const Box box = tracker.Run();
+  // A window that went meanwhile has no coordinates.
+  if (!IsWindow(window)) return true;
   POINT origin = {};
   ClientToScreen(window, &origin);
   *rect.x = static_cast<std::int32_t>(box.left - origin.x);

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Checks what the compiler doesn't: the format of the sources, the platform-free core, the public header, and
-# clang-tidy over the library. With --quick, without clang-tidy.
+# Checks what the compiler doesn't: the format of the sources, the platform-free core, the public header, the reference
+# made from it, and clang-tidy over the library. With --quick, without clang-tidy.
 . "$(dirname "$0")/lib.sh"
 quick=0
 [ "${1:-}" != --quick ] || quick=1
@@ -32,6 +32,9 @@ cp "$header_check/alone.c" "$header_check/alone.cpp"
 strict=(-Wall -Wextra -pedantic -Werror -fsyntax-only -I include)
 i686-w64-mingw32-gcc-posix -std=c99 "${strict[@]}" "$header_check/alone.c" || fail "include/brelt.h doesn't compile alone as C"
 i686-w64-mingw32-g++-posix -std=c++11 "${strict[@]}" "$header_check/alone.cpp" || fail "include/brelt.h doesn't compile alone as C++"
+
+# ---- The reference says what the header says ----
+scripts/reference.sh --check || fail "the reference isn't what the header says"
 
 # ---- Shell scripts at least parse ----
 for script in scripts/*.sh; do bash -n "$script" || fail "$script doesn't parse"; done

@@ -49,6 +49,27 @@ take_picture() {
   say "made $pictures/$1.png"
 }
 
+picture_controls() {
+  start_sample controls 'Controls'
+  # Fill, then sort.
+  xdotool mousemove $((X + 250)) $((Y + 362)) click 1
+  wait_for heard '^event 32772, wParam 141,'
+  xdotool mousemove $((X + 355)) $((Y + 362)) click 1
+  wait_for heard '^event 32772, wParam 142,'
+  xdotool mousemove $((X + 5)) $((Y + 300))
+  take_picture controls 0 0 "$WIDTH" "$HEIGHT"
+  end_sample
+}
+
+picture_rubberband() {
+  start_sample trackrect 'Press on a card and drag it'
+  # The second card, by its bottom right handle, which takes the pointer to its corner.
+  xdotool mousemove $((X + 225)) $((Y + 90)) mousedown 1 mouseup 1
+  wait_for heard '^event 32771, wParam 102,'
+  take_picture rubberband 0 0 "$WIDTH" "$HEIGHT"
+  end_sample
+}
+
 picture_tooltip() {
   start_sample hints 'Rest the pointer on a button'
   # In two steps: the first sight of the pointer isn't a movement.
@@ -59,7 +80,7 @@ picture_tooltip() {
   end_sample
 }
 
-[ $# -gt 0 ] || set -- tooltip
+[ $# -gt 0 ] || set -- controls rubberband tooltip
 for picture in "$@"; do
   declare -F "picture_$picture" >/dev/null || die "no picture is called $picture"
   "picture_$picture"

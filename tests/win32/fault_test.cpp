@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "tests/win32/support/forms.h"
+#include "tests/win32/support/child.h"
 
 namespace brelt::test {
 namespace {
@@ -12,39 +12,14 @@ constexpr DWORD kReturned = 99;
 constexpr const char* kEventName = "brelt.faultchild";
 
 // A process that calls RaiseGuiRtx with a code; it has said that it is about to.
-class FaultChild {
- public:
-  explicit FaultChild(int code) : event_(CreateEventA(nullptr, TRUE, FALSE, kEventName)) {
-    std::string command =
-        "\"" + ProgramFolder() + "faultchild.exe\" " + std::to_string(code) + " " + kEventName;
-    STARTUPINFOA start = {};
-    start.cb = sizeof start;
-    EXPECT_TRUE(CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
-                               &process_));
-    EXPECT_EQ(WaitForSingleObject(event_, 30000), WAIT_OBJECT_0);
-  }
-  FaultChild(const FaultChild&) = delete;
-  FaultChild& operator=(const FaultChild&) = delete;
-  ~FaultChild() {
-    TerminateProcess(process_.hProcess, 1);
-    WaitForSingleObject(process_.hProcess, INFINITE);
-    CloseHandle(process_.hProcess);
-    CloseHandle(process_.hThread);
-    CloseHandle(event_);
+struct FaultChild {
+  explicit FaultChild(int code)
+      : ready(kEventName), process("faultchild.exe", std::to_string(code) + " " + kEventName) {
+    EXPECT_TRUE(ready.IsSetWithin(30000));
   }
 
-  bool EndsWithin(DWORD milliseconds) {
-    return WaitForSingleObject(process_.hProcess, milliseconds) == WAIT_OBJECT_0;
-  }
-  DWORD ExitCode() {
-    DWORD code = 0;
-    GetExitCodeProcess(process_.hProcess, &code);
-    return code;
-  }
-
- private:
-  HANDLE event_;
-  PROCESS_INFORMATION process_ = {};
+  NamedEvent ready;
+  ChildProcess process;
 };
 
 TEST(RaiseGuiRtx, RaisesTheFaultOfItsCode) {
@@ -58,20 +33,20 @@ TEST(RaiseGuiRtx, RaisesTheFaultOfItsCode) {
   for (const Case& c : cases) {
     SCOPED_TRACE(c.code);
     FaultChild child(c.code);
-    ASSERT_TRUE(child.EndsWithin(30000));
-    EXPECT_EQ(child.ExitCode(), c.exception);
+    ASSERT_TRUE(child.process.EndsWithin(30000));
+    EXPECT_EQ(child.process.ExitCode(), c.exception);
   }
 }
 
 TEST(RaiseGuiRtx, NeverComesBackFromCode253) {
   FaultChild child(253);
-  EXPECT_FALSE(child.EndsWithin(300));
+  EXPECT_FALSE(child.process.EndsWithin(300));
 }
 
 TEST(RaiseGuiRtx, ComesBackAtOnceFromEveryOtherCode) {
   FaultChild child(6);
-  ASSERT_TRUE(child.EndsWithin(30000));
-  EXPECT_EQ(child.ExitCode(), kReturned);
+  ASSERT_TRUE(child.process.EndsWithin(30000));
+  EXPECT_EQ(child.process.ExitCode(), kReturned);
   for (int code = -1; code < 1000; ++code) {
     if (code == 5 || code == 29 || code == 150 || code == 253) continue;
     RaiseGuiRtx(code);

@@ -1,0 +1,40 @@
+// Programs that a test starts beside itself.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace brelt::test {
+
+// A program of the tests' own folder, with its arguments. It is ended with this if it still runs.
+class ChildProcess {
+ public:
+  ChildProcess(const std::string& program, const std::string& arguments);
+  ChildProcess(const ChildProcess&) = delete;
+  ChildProcess& operator=(const ChildProcess&) = delete;
+  ~ChildProcess();
+
+  bool EndsWithin(DWORD milliseconds) const;
+  // STILL_ACTIVE as long as it runs.
+  DWORD ExitCode() const;
+
+ private:
+  PROCESS_INFORMATION process_ = {};
+};
+
+// An event that a child signals by its name once it is ready.
+class NamedEvent {
+ public:
+  explicit NamedEvent(const std::string& name);
+  NamedEvent(const NamedEvent&) = delete;
+  NamedEvent& operator=(const NamedEvent&) = delete;
+  ~NamedEvent();
+
+  bool IsSetWithin(DWORD milliseconds) const;
+
+ private:
+  HANDLE event_;
+};
+
+}  // namespace brelt::test
