@@ -67,6 +67,7 @@ add_library(brelt_parts OBJECT
   graphics/trackrect.cpp
   printing/printer.cpp
   rc/exports.cpp
+  resprops/exports.cpp
 )
 target_compile_definitions(brelt_parts PUBLIC BRELT_BUILD NOMINMAX WIN32_LEAN_AND_MEAN)
 target_include_directories(brelt_parts PUBLIC ${PROJECT_SOURCE_DIR})

@@ -24,6 +24,12 @@ void Release(void* block) noexcept {
   GlobalFree(handle);
 }
 
+bool IsReadable(const void* memory, std::size_t bytes) noexcept {
+  return IsBadReadPtr(memory, bytes) == FALSE;
+}
+
+bool IsWritable(void* memory, std::size_t bytes) noexcept { return IsBadWritePtr(memory, bytes) == FALSE; }
+
 // ---- Files ----
 
 namespace {
@@ -45,6 +51,8 @@ constexpr OpenWay WayOf(OpenMode mode) noexcept {
       return {GENERIC_WRITE, CREATE_ALWAYS};
     case OpenMode::kAppend:
       return {GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS};
+    case OpenMode::kCreate:
+      return {GENERIC_WRITE, CREATE_NEW};
     default:
       return {GENERIC_READ, OPEN_EXISTING};
   }
@@ -96,7 +104,16 @@ bool RemoveFile(const char* path) noexcept { return DeleteFileA(path) != FALSE; 
 
 bool RenameFile(const char* from, const char* to) noexcept { return MoveFileA(from, to) != FALSE; }
 
+bool CutFile(const char* path, std::uint64_t size) noexcept {
+  const HANDLE file = OpenExisting(path, GENERIC_WRITE, FILE_SHARE_READ);
+  if (file == INVALID_HANDLE_VALUE) return false;
+  const bool cut = SeekFile(reinterpret_cast<FileHandle*>(file), size) && SetEndOfFile(file) != FALSE;
+  return CloseHandle(file) != FALSE && cut;
+}
+
 bool CanRewriteFile(const char* path) noexcept {
+  // Asked apart, because somebody with all rights may be let in all the same.
+  if ((GetFileAttributesA(path) & FILE_ATTRIBUTE_READONLY) != 0) return false;
   const HANDLE file = OpenExisting(path, GENERIC_WRITE, 0);
   if (file == INVALID_HANDLE_VALUE) return false;
   CloseHandle(file);

@@ -5,13 +5,18 @@
 quick=0
 [ "${1:-}" != --quick ] || quick=1
 scripts/setup.sh
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
 status=0
 fail() { say "$*"; status=1; }
 
 sources() { git ls-files --cached --others --exclude-standard -- '*.cpp' '*.h'; }
 
 # ---- Format ----
-sources | xargs clang-format --dry-run --Werror 2>&1 | head -n 40 | grep . && fail "clang-format would change these files"
+if ! sources | xargs clang-format --dry-run --Werror >"$work/format" 2>&1; then
+  head -n 40 "$work/format"
+  fail "clang-format would change these files"
+fi
 
 # ---- The core knows no platform ----
 core_files=$(sed -n 's/^  \([a-z]*\/[a-z0-9_]*\)\.cpp$/\1/p' cmake/core.cmake)
@@ -25,13 +30,11 @@ grep -nE '#include <(windows|windowsx|winuser|commctrl|shellapi|richedit|io|dire
   && fail "the core includes a platform header"
 
 # ---- The public header stands alone ----
-header_check=$(mktemp -d)
-trap 'rm -rf "$header_check"' EXIT
-echo '#include "brelt.h"' >"$header_check/alone.c"
-cp "$header_check/alone.c" "$header_check/alone.cpp"
+echo '#include "brelt.h"' >"$work/alone.c"
+cp "$work/alone.c" "$work/alone.cpp"
 strict=(-Wall -Wextra -pedantic -Werror -fsyntax-only -I include)
-i686-w64-mingw32-gcc-posix -std=c99 "${strict[@]}" "$header_check/alone.c" || fail "include/brelt.h doesn't compile alone as C"
-i686-w64-mingw32-g++-posix -std=c++11 "${strict[@]}" "$header_check/alone.cpp" || fail "include/brelt.h doesn't compile alone as C++"
+i686-w64-mingw32-gcc-posix -std=c99 "${strict[@]}" "$work/alone.c" || fail "include/brelt.h doesn't compile alone as C"
+i686-w64-mingw32-g++-posix -std=c++11 "${strict[@]}" "$work/alone.cpp" || fail "include/brelt.h doesn't compile alone as C++"
 
 # ---- The reference says what the header says ----
 scripts/reference.sh --check || fail "the reference isn't what the header says"
@@ -46,7 +49,7 @@ if [ $quick -eq 0 ]; then
   target=(--target=i686-w64-mingw32 -isystem "$cross" -isystem "$cross/i686-w64-mingw32")
   flags=(-std=c++20 -I. -fno-exceptions -fno-rtti -DBRELT_BUILD -DNOMINMAX -DWIN32_LEAN_AND_MEAN)
   windows_files=$(sed -n 's/^  \([a-z]*\/[a-z0-9_]*\.cpp\)$/\1/p' cmake/dll.cmake)
-  tidy_log=$header_check/tidy
+  tidy_log=$work/tidy
   {
     for file in $core_files; do echo "$file.cpp -- ${flags[*]}"; done
     for file in $windows_files; do echo "$file -- ${target[*]} ${flags[*]}"; done

@@ -34,6 +34,8 @@ extern HMODULE instance;
 extern HWND form;
 extern const char *tokens;
 extern const void *picture;
+extern char *rows[256], *menuRows[256];
+extern char error[256];
 int32_t __stdcall OnEvent(HWND window, uint32_t event, uint32_t wParam, int32_t lParam);
 C
 }
@@ -276,7 +278,7 @@ awk -v pages="$work/pages" -v examples="$work/examples.c" '
 
 # ---- The examples ----
 
-i686-w64-mingw32-gcc-posix -std=c99 -fsyntax-only -Werror=implicit-function-declaration -I include "$work/examples.c" \
+i686-w64-mingw32-gcc-posix -std=c99 -fsyntax-only -Werror -I include "$work/examples.c" \
   || die "examples in the header don't compile"
 
 if [ $check -eq 1 ]; then

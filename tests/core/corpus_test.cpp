@@ -14,7 +14,8 @@ class Corpus : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(Corpus, IsReadAsItsGoldenFileSays) {
   const auto bytes = test::LoadBytes(test::CorpusFolder() + "/" + GetParam());
-  if (!bytes) GTEST_SKIP() << "no scripts of other people at " << test::CorpusFolder() << " (set BRELT_CORPUS)";
+  if (!bytes)
+    GTEST_SKIP() << "no scripts of other people at " << test::CorpusFolder() << " (set BRELT_CORPUS)";
   test::ExpectGolden(std::string("corpus/") + GetParam() + ".txt", test::ReportScript(*bytes));
 }
 

@@ -40,7 +40,7 @@ std::string AllCharacters() {
   return text;
 }
 
-class CommandTest : public FormTest {
+class CommandCallTest : public FormTest {
  protected:
   void SetUp() override {
     FormTest::SetUp();
@@ -64,7 +64,7 @@ class CommandTest : public FormTest {
   std::vector<Sent> sent_;
 };
 
-TEST_F(CommandTest, ReportsTextThenWindowThenClassThenId) {
+TEST_F(CommandCallTest, ReportsTextThenWindowThenClassThenId) {
   const TestClass boxClass("MSGBOX.1.3.2207", 40);
   const TestWindow box(boxClass.name());
   HWND control = GetDlgItem(window_, 101);
@@ -101,7 +101,7 @@ TEST_F(CommandTest, ReportsTextThenWindowThenClassThenId) {
   }
 }
 
-TEST_F(CommandTest, PostsEachCharacterSignedAndThenA0) {
+TEST_F(CommandCallTest, PostsEachCharacterSignedAndThenA0) {
   const ReplacedImport post("PostMessageA", reinterpret_cast<void*>(&CollectPost));
   posted.clear();
   ASSERT_EQ(Command(window_, 70000, "a\x7F\x80\xFF"), RTX_OK);
@@ -115,7 +115,7 @@ TEST_F(CommandTest, PostsEachCharacterSignedAndThenA0) {
   EXPECT_EQ(posted, (std::vector<Posted>{{window_, 1282, 5, 0}}));
 }
 
-TEST_F(CommandTest, PostsAtMost259Characters) {
+TEST_F(CommandCallTest, PostsAtMost259Characters) {
   const ReplacedImport post("PostMessageA", reinterpret_cast<void*>(&CollectPost));
   for (const std::size_t length : {258u, 259u, 260u, 5000u}) {
     posted.clear();
@@ -125,7 +125,7 @@ TEST_F(CommandTest, PostsAtMost259Characters) {
   }
 }
 
-TEST_F(CommandTest, ReachesAllThreeKindsOfWindows) {
+TEST_F(CommandCallTest, ReachesAllThreeKindsOfWindows) {
   const ReplacedImport post("PostMessageA", reinterpret_cast<void*>(&CollectPost));
   for (const char* name : {"Editwindow.1.3.2207", "Richeditwindow.1.3.2207"}) {
     SCOPED_TRACE(name);
@@ -137,7 +137,7 @@ TEST_F(CommandTest, ReachesAllThreeKindsOfWindows) {
   }
 }
 
-TEST_F(CommandTest, ComesAsAClickWhenMessagesAreHandledNext) {
+TEST_F(CommandCallTest, ComesAsAClickWhenMessagesAreHandledNext) {
   ASSERT_EQ(Command(window_, 70001, "a text"), RTX_OK);
   ASSERT_EQ(Command(window_, 2, AllCharacters().c_str()), RTX_OK);
   ASSERT_EQ(Command(window_, 3, ""), RTX_OK);
@@ -150,7 +150,7 @@ TEST_F(CommandTest, ComesAsAClickWhenMessagesAreHandledNext) {
   EXPECT_EQ(Log().windows, std::vector<HWND>(3, window_));
 }
 
-TEST_F(CommandTest, ReachesAnEventFunctionThatSendsAnother) {
+TEST_F(CommandCallTest, ReachesAnEventFunctionThatSendsAnother) {
   Log().onEvent = [this](HWND window, const Event& event) {
     if (event.event != EV_CLICK) return 0;
     sent_.push_back({event.wParam, reinterpret_cast<const char*>(event.lParam)});
@@ -163,20 +163,20 @@ TEST_F(CommandTest, ReachesAnEventFunctionThatSendsAnother) {
   EXPECT_EQ(sent_, (std::vector<Sent>{{1, "again"}, {2, "again"}, {3, "again"}, {4, "again"}}));
 }
 
-TEST_F(CommandTest, TakesTheIdOfItsFirstCharacter) {
+TEST_F(CommandCallTest, TakesTheIdOfItsFirstCharacter) {
   PostCharacters("ab", 7);
   PostCharacters(std::string("c\0", 2), 8);
   Pump();
   EXPECT_EQ(sent_, (std::vector<Sent>{{7, "abc"}}));
 }
 
-TEST_F(CommandTest, KeepsAtMost259CharactersOfWhatOthersPost) {
+TEST_F(CommandCallTest, KeepsAtMost259CharactersOfWhatOthersPost) {
   PostCharacters(std::string(300, 'z') + '\0');
   Pump();
   EXPECT_EQ(sent_, (std::vector<Sent>{{101, std::string(259, 'z')}}));
 }
 
-TEST_F(CommandTest, WhoseEndNeverComesIsDeliveredAfterTwoSeconds) {
+TEST_F(CommandCallTest, WhoseEndNeverComesIsDeliveredAfterTwoSeconds) {
   PostCharacters("abc");
   const DWORD start = GetTickCount();
   ASSERT_TRUE(PumpUntil([this] { return !sent_.empty(); }, kTimeLimit));
@@ -202,7 +202,7 @@ BOOL WINAPI PeekAndPostLate(MSG* message, HWND window, UINT first, UINT last, UI
   return FALSE;
 }
 
-TEST_F(CommandTest, IsWaitedForWhileItComes) {
+TEST_F(CommandCallTest, IsWaitedForWhileItComes) {
   const ReplacedImport peek("PeekMessageA", reinterpret_cast<void*>(&PeekAndPostLate));
   late = {reinterpret_cast<decltype(late.peek)>(peek.original()), window_, 0};
   PostCharacters("not too ");
@@ -211,7 +211,7 @@ TEST_F(CommandTest, IsWaitedForWhileItComes) {
   EXPECT_EQ(sent_, (std::vector<Sent>{{101, "not too late"}}));
 }
 
-TEST_F(CommandTest, IsDroppedByADisabledWindow) {
+TEST_F(CommandCallTest, IsDroppedByADisabledWindow) {
   EnableWindow(window_, FALSE);
   ASSERT_EQ(Command(window_, 1, "unheard"), RTX_OK);
   Pump();
@@ -223,7 +223,7 @@ TEST_F(CommandTest, IsDroppedByADisabledWindow) {
   EXPECT_EQ(sent_, (std::vector<Sent>{{1, "heard"}}));
 }
 
-TEST_F(CommandTest, GoesWithItsWindow) {
+TEST_F(CommandCallTest, GoesWithItsWindow) {
   ASSERT_EQ(Command(window_, 1, "unheard"), RTX_OK);
   DestroyWindow(window_);
   Pump();
@@ -255,7 +255,7 @@ DWORD WINAPI RunOtherThread(LPVOID) {
   return 0;
 }
 
-TEST_F(CommandTest, ReachesAWindowOfAnotherThread) {
+TEST_F(CommandCallTest, ReachesAWindowOfAnotherThread) {
   OtherThread state;
   other = &state;
   HANDLE thread = CreateThread(nullptr, 0, RunOtherThread, nullptr, 0, nullptr);
@@ -286,7 +286,7 @@ std::string Line(uint32_t id, const std::string& text) {
   return line + "\r\n";
 }
 
-TEST_F(CommandTest, ReachesAWindowOfAnotherProgram) {
+TEST_F(CommandCallTest, ReachesAWindowOfAnotherProgram) {
   const std::string script =
       WriteTestFile("child.rc", "Child DIALOG 0, 0, 9, 9\nCAPTION \"Command child\"\nBEGIN\nEND\n");
   const std::string log = TestFolder() + "child.txt";

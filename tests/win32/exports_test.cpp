@@ -120,7 +120,7 @@ std::string ListedWord(std::string word) {
   static const std::map<std::string, std::string> same = {
       {"HWND", "handle"},   {"HMODULE", "handle"}, {"HDC", "handle"},       {"HKEY", "handle"},
       {"LRESULT", "int32"}, {"BOOL", "int32"},     {"block", "text"},       {"byte", "int8"},
-      {"word", "int16"},    {"RECT", "record"},    {"uint32[2]", "uint32*"}};
+      {"word", "uint32"},   {"RECT", "record"},    {"uint32[2]", "uint32*"}};
   if (const auto found = same.find(word); found != same.end()) return found->second;
   if (word.ends_with("*")) return ListedWord(word.substr(0, word.size() - 1)) + "*";
   return word;

@@ -7,6 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "tests/win32/support/child.h"
+
+namespace brelt::test {
 namespace {
 
 constexpr int kRows = 256;
@@ -170,42 +173,22 @@ TEST_F(ResourcesTest, AFolderIsNoFile) {
 
 // ---- A file that another process holds open ----
 
-constexpr const char* kHeldEvent = "BreltTestFileIsHeld";
-constexpr const char* kReleaseEvent = "BreltTestReleaseFile";
-constexpr DWORD kPatience = 20000;
-
-// Runs in the other process only.
-TEST(DISABLED_Holder, HoldsAFileOpenUntilItIsTold) {
-  const HANDLE file =
-      CreateFileA("form.rc", GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-  ASSERT_NE(file, INVALID_HANDLE_VALUE);
-  SetEvent(OpenEventA(EVENT_MODIFY_STATE, FALSE, kHeldEvent));
-  WaitForSingleObject(OpenEventA(SYNCHRONIZE, FALSE, kReleaseEvent), kPatience);
-  CloseHandle(file);
-}
-
 TEST_F(ResourcesTest, AFileThatAnotherProcessHoldsOpenIsRefusedByEveryChange) {
-  const HANDLE held = CreateEventA(nullptr, TRUE, FALSE, kHeldEvent);
-  const HANDLE release = CreateEventA(nullptr, TRUE, FALSE, kReleaseEvent);
-  char program[MAX_PATH];
-  GetModuleFileNameA(nullptr, program, sizeof program);
-  std::string command = "\"" + std::string(program) +
-                        "\" --gtest_also_run_disabled_tests --gtest_filter=DISABLED_Holder.* --gtest_brief=1";
-  STARTUPINFOA startup = {};
-  startup.cb = sizeof startup;
-  PROCESS_INFORMATION process;
-  ASSERT_TRUE(CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                             &process));
-  ASSERT_EQ(WaitForSingleObject(held, kPatience), WAIT_OBJECT_0);
+  constexpr DWORD kPatience = 20000;
+  const NamedEvent held("BreltTestFileIsHeld");
+  const NamedEvent release("BreltTestReleaseFile");
+  const ChildProcess holder("holdchild.exe", "form.rc BreltTestFileIsHeld BreltTestReleaseFile");
+  ASSERT_TRUE(held.IsSetWithin(kPatience));
 
   EXPECT_EQ(MessagesOfChanges(), std::vector<std::string>(4, refusal_));
   EXPECT_EQ(ReadBytes(path_), kForm);
 
-  SetEvent(release);
-  EXPECT_EQ(WaitForSingleObject(process.hProcess, kPatience), WAIT_OBJECT_0);
+  release.Set();
+  EXPECT_TRUE(holder.EndsWithin(kPatience));
+  EXPECT_EQ(holder.ExitCode(), 0u);
   EXPECT_EQ(MessagesOfChanges(),
             (std::vector<std::string>{"", "", "Cannot rename <Form>, it does not exist.", ""}));
-  for (const HANDLE handle : {held, release, process.hThread, process.hProcess}) CloseHandle(handle);
 }
 
 }  // namespace
+}  // namespace brelt::test

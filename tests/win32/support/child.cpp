@@ -39,4 +39,6 @@ bool NamedEvent::IsSetWithin(DWORD milliseconds) const {
   return WaitForSingleObject(event_, milliseconds) == WAIT_OBJECT_0;
 }
 
+void NamedEvent::Set() const { SetEvent(event_); }
+
 }  // namespace brelt::test

@@ -23,7 +23,7 @@ class ChildProcess {
   PROCESS_INFORMATION process_ = {};
 };
 
-// An event that a child signals by its name once it is ready.
+// An event that a child knows by its name: one of the two signals it and the other waits.
 class NamedEvent {
  public:
   explicit NamedEvent(const std::string& name);
@@ -32,6 +32,7 @@ class NamedEvent {
   ~NamedEvent();
 
   bool IsSetWithin(DWORD milliseconds) const;
+  void Set() const;
 
  private:
   HANDLE event_;

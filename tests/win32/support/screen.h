@@ -30,8 +30,8 @@ class Picture {
 Picture CaptureScreen(const RECT& area);
 Picture CaptureClient(HWND window);
 
-// Waits until a window that was just shown is on the screen for good: what is drawn over it stays. Windows may
-// be painted anew some time after they appear. False when that doesn't come about in time.
+// Waits until a window that was just shown is on the screen for good: what is drawn over it stays. Windows
+// may be painted anew some time after they appear. False when that doesn't come about in time.
 bool SettleOnScreen(HWND window);
 
 // The first places where two pictures differ, one a line; empty for equal ones.
