@@ -6,8 +6,8 @@
 
 #include "bench/harness.h"
 #include "bench/scripts.h"
-#include "frame/host.h"
 #include "rc/dialog.h"
+#include "rc/host.h"
 #include "rc/locate.h"
 #include "rc/record.h"
 #include "rc/scan.h"

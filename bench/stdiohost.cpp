@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "frame/host.h"
+#include "rc/host.h"
 
 namespace brelt::host {
 namespace {

@@ -1,5 +1,5 @@
 # The core: platform-free, built for this machine and for the DLL from the same sources. It gets memory, files and
-# menus through frame/host.h and frame/menuhost.h, whose implementation the program that links it provides.
+# menus through rc/host.h and rc/menuhost.h, whose implementation the program that links it provides.
 add_library(brelt_core STATIC
   graphics/packedbitmap.cpp
   graphics/rubberband.cpp

@@ -47,7 +47,6 @@ add_library(brelt_parts OBJECT
   forms/modal.cpp
   forms/mouse.cpp
   forms/painting.cpp
-  forms/pictureprops.cpp
   forms/positionprops.cpp
   forms/rangeprops.cpp
   forms/recordmessages.cpp
@@ -64,9 +63,9 @@ add_library(brelt_parts OBJECT
   forms/windowprocs.cpp
   graphics/canvas.cpp
   graphics/picturememory.cpp
+  graphics/pictureprops.cpp
   graphics/trackrect.cpp
   printing/printer.cpp
-  rc/exports.cpp
   resprops/exports.cpp
 )
 target_compile_definitions(brelt_parts PUBLIC BRELT_BUILD NOMINMAX WIN32_LEAN_AND_MEAN)

@@ -1,4 +1,4 @@
-#include "editwin/edittext.h"
+#include "forms/edittext.h"
 
 #include "include/events.h"
 

@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-#include "frame/host.h"
+#include "rc/host.h"
 
 namespace brelt {
 

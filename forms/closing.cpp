@@ -7,10 +7,10 @@
 #include "forms/handlers.h"
 #include "forms/modal.h"
 #include "forms/tooltip.h"
-#include "frame/host.h"
 #include "frame/library.h"
 #include "frame/owners.h"
 #include "frame/winobject.h"
+#include "rc/host.h"
 
 namespace brelt {
 namespace {

@@ -1,7 +1,7 @@
 // BackColour, ForeColour and BorderStyle. Colours are 0x00BBGGRR.
+#include "forms/printer.h"
 #include "forms/property.h"
 #include "include/brelt.h"
-#include "printing/printer.h"
 
 namespace brelt {
 namespace {

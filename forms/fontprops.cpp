@@ -2,9 +2,9 @@
 // printer.
 #include "forms/controls.h"
 #include "forms/fonts.h"
+#include "forms/printer.h"
 #include "forms/property.h"
 #include "include/brelt.h"
-#include "printing/printer.h"
 
 namespace brelt {
 namespace {

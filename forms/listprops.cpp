@@ -1,9 +1,9 @@
 // List, ListCount and ListIndex.
 #include "forms/listitems.h"
 #include "forms/lists.h"
+#include "forms/picture.h"
 #include "forms/property.h"
 #include "frame/library.h"
-#include "graphics/picturememory.h"
 #include "include/brelt.h"
 
 namespace brelt {
@@ -83,7 +83,7 @@ std::int32_t FillItem(const List& list, std::int32_t index, rc::TextBuffer out) 
 std::int32_t FillPicture(const List& list, std::int32_t index, rc::TextBuffer out) noexcept {
   if (!list.Holds(index)) return RTX_OK;
   const auto* picture = reinterpret_cast<const void*>(list.Data(index));
-  const std::uint32_t size = graphics::ReadablePictureSize(picture);
+  const std::uint32_t size = ReadablePictureSize(picture);
   if (size > 0 && size <= static_cast<std::uint32_t>(out.size())) std::memcpy(out.data(), picture, size);
   return RTX_OK;
 }

@@ -1,10 +1,10 @@
 // Properties that need no control: drawing position, resolution, page measures, and the flags of a window.
-#include "editwin/edittext.h"
+#include "forms/canvas.h"
+#include "forms/edittext.h"
 #include "forms/fonts.h"
+#include "forms/printer.h"
 #include "forms/property.h"
-#include "graphics/canvas.h"
 #include "include/brelt.h"
-#include "printing/printer.h"
 
 namespace brelt {
 namespace {

@@ -1,7 +1,7 @@
 // Position, MaxPosition and MinPosition.
+#include "forms/printer.h"
 #include "forms/property.h"
 #include "include/brelt.h"
-#include "printing/printer.h"
 #include "rc/scan.h"
 #include "rc/textkit.h"
 

@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-#include "frame/host.h"
+#include "rc/host.h"
 
 namespace brelt {
 

@@ -1,6 +1,6 @@
 // Text, TextLength, Selection, SelText, Modify, Readonly and PasswordChar: what can be typed in.
-#include "editwin/edittext.h"
 #include "forms/clipboard.h"
+#include "forms/edittext.h"
 #include "forms/property.h"
 #include "forms/textcopy.h"
 #include "include/brelt.h"

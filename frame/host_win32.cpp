@@ -1,9 +1,9 @@
 // The core's host on Windows.
 #include <windows.h>
 
-#include "frame/host.h"
 #include "frame/owners.h"
 #include "frame/systemname.h"
+#include "rc/host.h"
 
 namespace brelt::host {
 

@@ -1,7 +1,7 @@
 // The six menu operations on Windows.
 #include <windows.h>
 
-#include "frame/menuhost.h"
+#include "rc/menuhost.h"
 
 namespace brelt::host {
 namespace {

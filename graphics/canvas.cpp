@@ -1,4 +1,4 @@
-#include "graphics/canvas.h"
+#include "forms/canvas.h"
 
 #include "frame/owners.h"
 #include "frame/winobject.h"

@@ -1,4 +1,4 @@
-#include "printing/printer.h"
+#include "forms/printer.h"
 
 #include "include/events.h"
 #include "rc/text.h"

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "frame/host.h"
+#include "rc/host.h"
 #include "rc/text.h"
 
 namespace brelt::rc {

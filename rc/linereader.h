@@ -2,7 +2,7 @@
 // the file.
 #pragma once
 
-#include "frame/host.h"
+#include "rc/host.h"
 
 namespace brelt::rc {
 

@@ -1,8 +1,8 @@
 // Makes the menu of a window from the text of a MENU resource.
 #pragma once
 
-#include "frame/menuhost.h"
 #include "rc/accelerators.h"
+#include "rc/menuhost.h"
 #include "rc/menuoptions.h"
 #include "rc/symbols.h"
 

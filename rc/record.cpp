@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "frame/host.h"
+#include "rc/host.h"
 
 namespace brelt::rc {
 

@@ -1,5 +1,7 @@
-// The calls by which a form designer reads and rewrites RC files.
+// The calls by which a form designer reads and rewrites RC files, and asks for the number of a word.
 #include "frame/trace.h"
+#include "rc/commonids.h"
+#include "rc/symbols.h"
 #include "resprops/resourceinfo.h"
 #include "resprops/resourceread.h"
 #include "resprops/resourcewrite.h"
@@ -58,6 +60,16 @@ void __stdcall ResourceInfo(const char* rcFile, const char* type, const char* na
                             std::int32_t errorSize) noexcept {
   TraceCall(__func__);
   resprops::ResourceInfo(rcFile, type, name, flags, {output, outputSize}, {error, errorSize});
+}
+
+std::int32_t __stdcall ResourceCommonId(const char* name) noexcept {
+  TraceCall(__func__);
+  return brelt::rc::CommonIdValue(name);
+}
+
+std::int32_t __stdcall ResourceValue(const char* name) noexcept {
+  TraceCall(__func__);
+  return brelt::rc::ResourceWordValue(name);
 }
 
 }  // extern "C"

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "frame/host.h"
 #include "rc/chars.h"
+#include "rc/host.h"
 
 namespace brelt::resprops {
 namespace {

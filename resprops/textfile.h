@@ -1,7 +1,7 @@
 // Writes files as text: each line feed becomes a carriage return and a line feed, on every host.
 #pragma once
 
-#include "frame/host.h"
+#include "rc/host.h"
 
 namespace brelt::resprops {
 

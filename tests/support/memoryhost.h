@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/host.h"
+#include "rc/host.h"
 
 namespace brelt::test {
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "frame/menuhost.h"
+#include "rc/menuhost.h"
 
 namespace brelt::test {
 

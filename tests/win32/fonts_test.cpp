@@ -5,7 +5,7 @@
 #include <cstring>
 #include <string>
 
-#include "frame/host.h"
+#include "rc/host.h"
 
 namespace brelt::test {
 namespace {

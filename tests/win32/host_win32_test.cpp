@@ -6,8 +6,8 @@
 #include <cstring>
 #include <string>
 
-#include "frame/host.h"
-#include "frame/menuhost.h"
+#include "rc/host.h"
+#include "rc/menuhost.h"
 #include "tests/support/guarded.h"
 #include "tests/win32/support/forms.h"
 

@@ -1,11 +1,11 @@
-// What the rest of the library asks of the printer of the running job.
+// What the property calls ask of the printer of the running job; printing provides it.
 #pragma once
 
 #include <windows.h>
 
 #include <cstdint>
 
-#include "frame/host.h"
+#include "rc/host.h"
 
 namespace brelt {
 

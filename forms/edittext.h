@@ -1,5 +1,6 @@
-// What the property calls ask of an edit window: one function for each. The windows of the two classes are
-// frames whose inner control is still to come, so that each answers as for a window without text.
+// What the property calls ask of an edit window: one function for each, which the edit windows provide. The
+// windows of the two classes are frames whose inner control is still to come, so that each answers as for a
+// window without text.
 #pragma once
 
 #include <windows.h>

@@ -1,8 +1,8 @@
 // Picture, and what a picture tells about itself.
+#include "forms/canvas.h"
+#include "forms/picture.h"
 #include "forms/property.h"
-#include "graphics/canvas.h"
 #include "graphics/packedbitmap.h"
-#include "graphics/picturememory.h"
 #include "include/brelt.h"
 
 namespace brelt {
@@ -17,7 +17,7 @@ bool ShowsPicture(HWND control) noexcept {
 
 std::int32_t CopyControlPicture(HWND control, const PictureOutput& out) noexcept {
   const auto* picture = reinterpret_cast<const void*>(SendMessageA(control, CM_GETPICTURE, 0, 0));
-  const std::uint32_t size = graphics::ReadablePictureSize(picture);
+  const std::uint32_t size = ReadablePictureSize(picture);
   if (size == 0) return RTX_OK;
   if (size > static_cast<std::uint32_t>(out.bytes().size())) return RTX_PICTURE_BUFFER;
   std::memcpy(out.buffer, picture, size);
@@ -60,7 +60,7 @@ int32_t __stdcall GetBitmapInfo(const void* picture, int32_t* width, int32_t* he
       *output = 0;
     }
   }
-  const uint32_t readable = complete ? graphics::ReadablePictureSize(picture) : 0;
+  const uint32_t readable = complete ? ReadablePictureSize(picture) : 0;
   if (readable == 0) return RTX_OK;
   const graphics::PictureInfo info = graphics::ReadPictureHeader(picture);
   *width = info.width;

@@ -1,4 +1,5 @@
-// The canvas of a Dialog: a bitmap behind its window that programs draw on.
+// The canvas of a Dialog, a bitmap behind its window that programs draw on, as far as the property calls need
+// it; the drawing calls provide it.
 #pragma once
 
 #include <windows.h>
