@@ -13,12 +13,12 @@ HMENU AsMenu(MenuHandle* menu) noexcept { return reinterpret_cast<HMENU>(menu); 
 MenuHandle* MakeMenu() noexcept { return reinterpret_cast<MenuHandle*>(CreateMenu()); }
 MenuHandle* MakePopupMenu() noexcept { return reinterpret_cast<MenuHandle*>(CreatePopupMenu()); }
 
-void AppendItem(MenuHandle* menu, std::uint32_t flags, std::int32_t id, const char* text) noexcept {
-  AppendMenuA(AsMenu(menu), flags, static_cast<UINT_PTR>(id), text);
+bool AppendItem(MenuHandle* menu, std::uint32_t flags, std::int32_t id, const char* text) noexcept {
+  return AppendMenuA(AsMenu(menu), flags, static_cast<UINT_PTR>(id), text) != FALSE;
 }
 
-void AppendPopup(MenuHandle* menu, std::uint32_t flags, MenuHandle* popup, const char* text) noexcept {
-  AppendMenuA(AsMenu(menu), flags, reinterpret_cast<UINT_PTR>(popup), text);
+bool AppendPopup(MenuHandle* menu, std::uint32_t flags, MenuHandle* popup, const char* text) noexcept {
+  return AppendMenuA(AsMenu(menu), flags, reinterpret_cast<UINT_PTR>(popup), text) != FALSE;
 }
 
 int CountItems(MenuHandle* menu) noexcept {

@@ -29,6 +29,12 @@ class MenuBuilder : TokenReader {
     if (!TokenIs(keyword)) failure_.Set(RTX_MENU_SYNTAX, failure);
     return !failure_;
   }
+  // Fails unless the platform had room for a menu or an entry: one that silently lacks something would be
+  // worse than none.
+  bool Require(bool had) noexcept {
+    if (!had) failure_.Set(RTX_NO_MEMORY, kMenuNoMemory);
+    return had;
+  }
 
   host::MenuHandle* BuildBar() noexcept;
   void BuildElements(host::MenuHandle* menu) noexcept;
@@ -51,10 +57,7 @@ host::MenuHandle* MenuBuilder::BuildBar() noexcept {
   NextBehindLoadOptions();
   if (!Expect("BEGIN", "BEGIN expected")) return nullptr;
   host::MenuHandle* menu = host::MakeMenu();
-  if (menu == nullptr) {
-    failure_.Set(RTX_NO_MEMORY, kMenuNoMemory);
-    return nullptr;
-  }
+  if (!Require(menu != nullptr)) return nullptr;
   BuildElements(menu);
   if (!failure_) AddTitleKeys(menu);
   return menu;
@@ -78,7 +81,10 @@ void MenuBuilder::BuildElements(host::MenuHandle* menu) noexcept {
 // whole menu goes then.
 void MenuBuilder::BuildItem(host::MenuHandle* menu) noexcept {
   Next();
-  if (TokenIs("SEPARATOR")) return host::AppendItem(menu, kMenuSeparator, 0, nullptr);
+  if (TokenIs("SEPARATOR")) {
+    Require(host::AppendItem(menu, kMenuSeparator, 0, nullptr));
+    return;
+  }
   if (!TokenIsString()) return failure_.Set(RTX_MENU_SYNTAX, kMenuStringExpected);
   token_.Assign(StringBody(token_.view()));
   UnescapeText(token_.c_str(), itemText_);
@@ -86,7 +92,7 @@ void MenuBuilder::BuildItem(host::MenuHandle* menu) noexcept {
   if (!TokenIs(",")) return failure_.Set(RTX_MENU_SYNTAX, kMenuCommaExpected);
   const std::int32_t command = ReadCommand();
   const std::uint32_t options = ReadMenuOptions(text_, position_, failure_);
-  host::AppendItem(menu, options, command, itemText_.c_str());
+  Require(host::AppendItem(menu, options, command, itemText_.c_str()));
   AddAccelerators(itemText_.c_str(), command, accelerators_);
 }
 
@@ -112,8 +118,10 @@ void MenuBuilder::BuildPopup(host::MenuHandle* parent) noexcept {
   const std::uint32_t options = ReadMenuOptions(text_, position_, failure_) | kMenuPopup;
   if (failure_) return;
   host::MenuHandle* popup = host::MakePopupMenu();
-  if (popup == nullptr) return failure_.Set(RTX_NO_MEMORY, kMenuNoMemory);
-  host::AppendPopup(parent, options, popup, token_.c_str());
+  if (!Require(popup != nullptr)) return;
+  if (!Require(host::AppendPopup(parent, options, popup, token_.c_str()))) {
+    return host::DestroyMenuTree(popup);
+  }
   Next();
   if (Expect("BEGIN", "BEGIN expected")) BuildElements(popup);
 }

@@ -14,9 +14,10 @@ struct MenuHandle;
 // Null when the platform can't make one.
 MenuHandle* MakeMenu() noexcept;
 MenuHandle* MakePopupMenu() noexcept;
-// flags are the platform's MF_ bits. A separator needs neither id nor text.
-void AppendItem(MenuHandle* menu, std::uint32_t flags, std::int32_t id, const char* text) noexcept;
-void AppendPopup(MenuHandle* menu, std::uint32_t flags, MenuHandle* popup, const char* text) noexcept;
+// flags are the platform's MF_ bits. A separator needs neither id nor text. False when the entry
+// can't be had; the popup then stays the caller's.
+bool AppendItem(MenuHandle* menu, std::uint32_t flags, std::int32_t id, const char* text) noexcept;
+bool AppendPopup(MenuHandle* menu, std::uint32_t flags, MenuHandle* popup, const char* text) noexcept;
 int CountItems(MenuHandle* menu) noexcept;
 // The text of the item at a position from 0, cut to the buffer and always terminated.
 void ItemTextAt(MenuHandle* menu, int position, rc::TextBuffer text) noexcept;

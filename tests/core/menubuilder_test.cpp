@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 #include "tests/support/dump.h"
@@ -13,17 +14,6 @@ namespace brelt::rc {
 namespace {
 
 constexpr const char* kPath = "c:\\work\\a.rc";
-
-// The symbols that the cases are built with.
-const SymbolIndex& Symbols() {
-  static SymbolRecord rows[std::size(test::kMenuSymbols)];
-  for (std::size_t i = 0; i < std::size(rows); ++i) {
-    rows[i].Name.Assign(test::kMenuSymbols[i].name);
-    rows[i].Value = test::kMenuSymbols[i].value;
-  }
-  static const SymbolIndex index(rows);
-  return index;
-}
 
 struct Built {
   std::string menu;
@@ -48,7 +38,7 @@ Built BuildWith(Build build) {
 
 Built BuildText(const std::string& text) {
   return BuildWith([&text](AcceleratorTable& keys, Failure& fault) {
-    return BuildMenu(text.c_str(), Symbols(), keys, fault);
+    return BuildMenu(text.c_str(), test::MenuCaseSymbols(), keys, fault);
   });
 }
 
@@ -62,7 +52,7 @@ class MenuBuilderTest : public ::testing::Test {
   static Built BuildFile(const char* file, const char* name) {
     const Built built = BuildWith([file, name](AcceleratorTable& keys, Failure& fault) {
       keys[0] = keys[99] = {1, 2, 3};
-      return BuildMenuFromFile(file, name, Symbols(), keys, fault);
+      return BuildMenuFromFile(file, name, test::MenuCaseSymbols(), keys, fault);
     });
     EXPECT_EQ(test::LiveAllocations(), 0);
     EXPECT_EQ(test::OpenFiles(), 0);
@@ -84,19 +74,28 @@ TEST_F(MenuBuilderTest, BuildsTheSharedCases) {
   }
 }
 
-TEST_F(MenuBuilderTest, EachMenuThatCannotBeMadeIsToldAndNothingIsLeft) {
-  const std::string text = "M MENU\nBEGIN\nPOPUP \"a\"\nBEGIN\nPOPUP \"b\"\nBEGIN\nEND\nEND\nEND";
-  const char* messages[] = {"Not enough memory to create menu (Line 2, col 1)",
-                            "Not enough memory to create menu (Line 3, col 7)",
-                            "Not enough memory to create menu (Line 5, col 7)", ""};
-  for (int n = 0; n < 4; ++n) {
+TEST_F(MenuBuilderTest, EachMenuOrEntryThatCannotBeHadIsToldAndNothingIsLeft) {
+  const std::string text =
+      "M MENU\nBEGIN\nPOPUP \"a\"\nBEGIN\nPOPUP \"b\"\nBEGIN\n"
+      "MENUITEM \"c\",1\nMENUITEM SEPARATOR\nEND\nEND\nEND";
+  const char* places[] = {"2, col 1", "3, col 7",  "3, col 7", "5, col 7",
+                          "5, col 7", "7, col 10", "8, col 10"};
+  for (int n = 0; n <= 7; ++n) {
     SCOPED_TRACE(n);
     test::FailMenu(n);
     const Built built = BuildText(text);
-    EXPECT_EQ(built.message, messages[n]);
-    EXPECT_EQ(built.code, n < 3 ? RTX_NO_MEMORY : RTX_OK);
-    EXPECT_EQ(built.made, n == 3);
+    EXPECT_EQ(built.message,
+              n < 7 ? std::string("Not enough memory to create menu (Line ") + places[n] + ")" : "");
+    EXPECT_EQ(built.code, n < 7 ? RTX_NO_MEMORY : RTX_OK);
+    EXPECT_EQ(built.made, n == 7);
   }
+}
+
+TEST_F(MenuBuilderTest, AFaultOfTheTextStandsAheadOfAnEntryThatCannotBeHad) {
+  test::FailMenu(1);
+  const Built built = BuildText("M MENU BEGIN MENUITEM \"a\",NONE END");
+  EXPECT_EQ(built.message, "Menu command identifier not defined: NONE (Line 1, col 23)");
+  EXPECT_EQ(built.code, RTX_UNDEFINED_ID);
 }
 
 TEST_F(MenuBuilderTest, TextsAreCutTo1024Characters) {
@@ -190,6 +189,25 @@ TEST_F(MenuBuilderTest, EachFailureOfTheFileHasItsMessageAndCode) {
     EXPECT_EQ(built.keys, "");
     EXPECT_EQ(built.message, expected.message);
     EXPECT_EQ(built.code, expected.code);
+  }
+}
+
+TEST_F(MenuBuilderTest, TheTextOfAMenuMayHave65534Characters) {
+  const std::string head = "M MENU\nBEGIN\n";
+  for (const int length : {65534, 65535}) {
+    std::string lines;
+    while (head.size() + lines.size() + 3 < static_cast<std::size_t>(length)) {
+      lines += std::string(std::min<std::size_t>(999, length - 4 - head.size() - lines.size()), ' ') + "\n";
+    }
+    const std::string text = head + lines + "END";
+    ASSERT_EQ(text.size(), static_cast<std::size_t>(length));
+    test::WriteFile(kPath, text);
+    const Built built = BuildFile(kPath, "M");
+    EXPECT_EQ(built.made, length == 65534);
+    if (built.made) continue;
+    // What is cut off is missing, and the parser says so.
+    EXPECT_EQ(built.message, "Menu <M>, END expected (Line " +
+                                 std::to_string(std::count(text.begin(), text.end(), '\n') + 1) + ", col 1)");
   }
 }
 

@@ -2,7 +2,10 @@
 // the builder run them on menus in memory, those of the library on the platform's.
 #pragma once
 
+#include <iterator>
+
 #include "include/events.h"
+#include "rc/symbols.h"
 
 namespace brelt::test {
 
@@ -15,9 +18,22 @@ struct MenuSymbol {
 inline constexpr MenuSymbol kMenuSymbols[] = {
     {"IDM_OPEN", 101}, {"IDM_SAVE", 102}, {"IDM_EXIT", 103}, {"IDM_ZERO", 0}};
 
+// The same as an index for the builder.
+inline const rc::SymbolIndex& MenuCaseSymbols() {
+  static rc::SymbolRecord rows[std::size(kMenuSymbols)];
+  for (std::size_t i = 0; i < std::size(rows); ++i) {
+    rows[i].Name.Assign(kMenuSymbols[i].name);
+    rows[i].Value = kMenuSymbols[i].value;
+  }
+  static const rc::SymbolIndex index(rows);
+  return index;
+}
+
 struct MenuCase {
   const char* text;
-  const char* menu;     // as DumpMenu gives it; empty also for a menu without items
+  // Nesting by two blanks, then flags, id (-1 for a popup) and text with its escapes; empty also for a menu
+  // without items.
+  const char* menu;
   const char* keys;     // as DumpAccelerators gives it
   const char* message;  // empty where a menu is built
   int code = RTX_OK;

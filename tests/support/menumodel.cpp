@@ -24,8 +24,11 @@ int failAt = -1;
 int made = 0;
 int live = 0;
 
+// Counts whatever needs memory: a menu or an entry.
+bool HasRoom() { return made++ != failAt; }
+
 MenuHandle* Make() {
-  if (made++ == failAt) return nullptr;
+  if (!HasRoom()) return nullptr;
   ++live;
   return new MenuHandle;
 }
@@ -35,12 +38,16 @@ MenuHandle* Make() {
 MenuHandle* MakeMenu() noexcept { return Make(); }
 MenuHandle* MakePopupMenu() noexcept { return Make(); }
 
-void AppendItem(MenuHandle* menu, std::uint32_t flags, std::int32_t id, const char* text) noexcept {
+bool AppendItem(MenuHandle* menu, std::uint32_t flags, std::int32_t id, const char* text) noexcept {
+  if (!HasRoom()) return false;
   menu->items.push_back({flags, id, nullptr, text != nullptr ? text : ""});
+  return true;
 }
 
-void AppendPopup(MenuHandle* menu, std::uint32_t flags, MenuHandle* popup, const char* text) noexcept {
+bool AppendPopup(MenuHandle* menu, std::uint32_t flags, MenuHandle* popup, const char* text) noexcept {
+  if (!HasRoom()) return false;
   menu->items.push_back({flags, -1, popup, text});
+  return true;
 }
 
 int CountItems(MenuHandle* menu) noexcept { return static_cast<int>(menu->items.size()); }

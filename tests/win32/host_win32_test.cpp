@@ -114,6 +114,29 @@ TEST_F(HostFileTest, RenamesAFileButOverNoOther) {
   EXPECT_TRUE(host::RemoveFile(other.c_str()));
 }
 
+TEST_F(HostFileTest, CreatesOnlyWhatIsNotThere) {
+  host::RemoveFile(path_.c_str());
+  {
+    host::File file(path_.c_str(), OpenMode::kCreate);
+    ASSERT_TRUE(file);
+    EXPECT_TRUE(file.Write("one", 3));
+  }
+  EXPECT_FALSE(host::File(path_.c_str(), OpenMode::kCreate));
+  EXPECT_EQ(ReadTestFile(path_), "one");
+  EXPECT_FALSE(host::File(TestFolder().c_str(), OpenMode::kCreate));
+}
+
+TEST_F(HostFileTest, CutsAFileThatIsThere) {
+  WriteTestFile("host.bin", "one two");
+  EXPECT_TRUE(host::CutFile(path_.c_str(), 3));
+  EXPECT_EQ(ReadTestFile(path_), "one");
+  EXPECT_TRUE(host::CutFile(path_.c_str(), 0));
+  EXPECT_EQ(ReadTestFile(path_), "");
+  host::RemoveFile(path_.c_str());
+  EXPECT_FALSE(host::CutFile(path_.c_str(), 0));
+  EXPECT_EQ(GetFileAttributesA(path_.c_str()), INVALID_FILE_ATTRIBUTES);
+}
+
 TEST_F(HostFileTest, CanRewriteAFileThatNobodyElseHasOpen) {
   WriteTestFile("host.bin", "x");
   EXPECT_TRUE(host::CanRewriteFile(path_.c_str()));
@@ -168,10 +191,10 @@ TEST(HostMenu, IsThePlatformsMenu) {
   const auto bar = reinterpret_cast<HMENU>(menu);
   const auto sub = reinterpret_cast<HMENU>(popup);
   EXPECT_EQ(host::CountItems(menu), 0);
-  host::AppendPopup(menu, MF_POPUP | MF_GRAYED, popup, "&File");
-  host::AppendItem(popup, 0, 100, "&Open");
-  host::AppendItem(popup, MF_SEPARATOR, 0, nullptr);
-  host::AppendItem(popup, MF_CHECKED, -5, "&Close");
+  EXPECT_TRUE(host::AppendPopup(menu, MF_POPUP | MF_GRAYED, popup, "&File"));
+  EXPECT_TRUE(host::AppendItem(popup, 0, 100, "&Open"));
+  EXPECT_TRUE(host::AppendItem(popup, MF_SEPARATOR, 0, nullptr));
+  EXPECT_TRUE(host::AppendItem(popup, MF_CHECKED, -5, "&Close"));
   EXPECT_EQ(host::CountItems(menu), 1);
   EXPECT_EQ(host::CountItems(popup), 3);
   EXPECT_EQ(GetSubMenu(bar, 0), sub);
@@ -188,6 +211,11 @@ TEST(HostMenu, IsThePlatformsMenu) {
   EXPECT_FALSE(IsMenu(bar));
   EXPECT_FALSE(IsMenu(sub));
   EXPECT_EQ(host::CountItems(menu), 0);
+  EXPECT_FALSE(host::AppendItem(menu, 0, 100, "&Open"));
+  host::MenuHandle* orphan = host::MakePopupMenu();
+  EXPECT_FALSE(host::AppendPopup(menu, MF_POPUP, orphan, "&File"));
+  EXPECT_TRUE(IsMenu(reinterpret_cast<HMENU>(orphan)));
+  host::DestroyMenuTree(orphan);
 }
 
 }  // namespace

@@ -199,6 +199,13 @@ TEST_F(LoadMemoryTest, FailsWith708WithoutAMenu) {
     const CountedImport<struct Popups, HMENU> popups("CreatePopupMenu", 1);
     EXPECT_EQ(LoadForm(path), (Outcome{708, "Menu <Bar>, Not enough memory to create menu (Line 3, col 9)"}));
   }
+  const char* places[] = {"(Line 3, col 9)", "(Line 5, col 22)"};
+  for (int failAt = 1; failAt <= 2; ++failAt) {
+    const CountedImport<struct Appending, BOOL, HMENU, UINT, UINT_PTR, LPCSTR> appending("AppendMenuA",
+                                                                                         failAt);
+    EXPECT_EQ(LoadForm(path), (Outcome{708, std::string("Menu <Bar>, Not enough memory to create menu ") +
+                                                places[failAt - 1]}));
+  }
   EXPECT_EQ(ToText(CountHandles()), ToText(before));
 }
 
