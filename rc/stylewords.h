@@ -18,7 +18,7 @@ struct StyleWord {
 };
 
 // Sorted for the search by halves. Families reuse bits, so a number doesn't tell its word.
-inline constexpr std::array<StyleWord, 156> kStyleWordTable = {{
+inline constexpr auto kStyleWordTable = std::to_array<StyleWord>({
     {"BB_CHECKSTYLE", 0x2},
     {"BB_PUSHSTYLE", 0x0},
     {"BB_RADIOSTYLE", 0x4},
@@ -175,7 +175,8 @@ inline constexpr std::array<StyleWord, 156> kStyleWordTable = {{
     {"WS_THICKFRAME", 0x40000},
     {"WS_VISIBLE", 0x10000000},
     {"WS_VSCROLL", 0x200000},
-}};
+});
+static_assert(kStyleWordTable.size() == 156);
 static_assert(IsStrictlySorted(kStyleWordTable));
 
 // The bits of words joined by the pipe character; every word must be in the table. Compile time only.
