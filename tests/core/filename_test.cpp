@@ -82,6 +82,9 @@ TEST(FileMessages, ShowAtMost260CharactersOfTheName) {
             "The file <" + name + "> should be a full path with a drive letter or just a filename");
   EXPECT_EQ(MissingFileMessage("c:\\a.rc").view(), "The file <c:\\a.rc> does not exist");
   EXPECT_EQ(MissingFileMessage((name + "xyz").c_str()).view(), "The file <" + name + "> does not exist");
+  EXPECT_EQ(UnreadableFileMessage("c:\\a.rc").view(), "The file <c:\\a.rc> could not be opened");
+  EXPECT_EQ(UnreadableFileMessage((name + "xyz").c_str()).view(),
+            "The file <" + name + "> could not be opened");
 }
 
 class FileTest : public ::testing::Test {

@@ -108,6 +108,13 @@ TEST_F(Located, TheTypeMayBeAnyOrSeveral) {
   }
 }
 
+TEST_F(Located, OfATypeListOnly1024CharactersAreLookedAt) {
+  test::WriteFile(kPath, kForms);
+  EXPECT_EQ(Locate("FIRST", (std::string(1016, 'X') + "\nDIALOG\n").c_str()).first, 3);
+  EXPECT_EQ(Locate("FIRST", (std::string(1016, 'X') + "\nDIALOG").c_str()).first, 3);
+  EXPECT_EQ(Locate("FIRST", (std::string(1017, 'X') + "\nDIALOG\n").c_str()).first, 0);
+}
+
 TEST_F(Located, AKeywordThatIsTheTailOfTheTypeSoughtIsFoundToo) {
   ExpectFound(LocateIn("A LOG 1\nBEGIN\nEND\n", "A", "DIALOG"), "A LOG 1\nBEGIN\nEND\n", 1, 3);
   EXPECT_EQ(List("A LOG 1\nBEGIN\nEND\n", "DIALOG"), "A,LOG\n");
@@ -447,6 +454,12 @@ TEST_F(IconFile, IsAQuotedNameWithDoubledBackslashesMadeOne) {
   EXPECT_EQ(Of(R"(A ICON "\\\\server\\\x.ico")"), R"(\\server\\x.ico)");
   EXPECT_EQ(Of("A ICON \"a b.ico\" // comment\n"), "a b.ico");
   EXPECT_EQ(Of("A ICON \"a\"\"b.ico\"\n"), "a\"\"b.ico");
+}
+
+TEST_F(IconFile, MayStandAnywhereOnALineThatIsReadWhole) {
+  const std::string line = "A ICON" + std::string(1010, ' ') + "\"i.ico\"";
+  ASSERT_EQ(line.size(), 1023u);
+  EXPECT_EQ(Of(line + "\n"), "i.ico");
 }
 
 TEST_F(IconFile, LoadOptionsMayStandAheadOfTheName) {

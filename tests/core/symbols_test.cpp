@@ -204,6 +204,18 @@ TEST_F(LoadSymbols_, AFileThatDoesNotOpenIsTold) {
   EXPECT_EQ(loaded.report.message.view(), "The file <c:\\work\\a.rc> could not be opened");
 }
 
+TEST_F(LoadSymbols_, AHeaderThatDoesNotOpenIsToldWithItsPath) {
+  test::WriteFile(kPath, kTextInclude);
+  test::WriteFile("c:\\work\\a.h", "#define A 1\n");
+  // The search for the include resource takes four operations (size, open, read, close); then comes the
+  // header's size.
+  test::FailFileOperation(5);
+  const Loaded loaded = Load(kPath);
+  EXPECT_EQ(loaded.count, 0);
+  EXPECT_EQ(loaded.report.message.view(), "The file <c:\\work\\a.h> could not be opened");
+  EXPECT_EQ(loaded.report.includeName.view(), "a.h");
+}
+
 TEST_F(LoadSymbols_, AnEmptyFileHasNoRowsAndNoMessage) {
   test::WriteFile(kPath, "");
   const Loaded loaded = Load(kPath);
@@ -436,6 +448,31 @@ TEST_F(LoadSymbols_, AllOfAFullDialogAndMenuAreSeen) {
   test::WriteFile(kPath,
                   words + "F DIALOG\nMENU M\nBEGIN\n" + controls + "END\nM MENU\nBEGIN\n" + items + "END\n");
   EXPECT_EQ(Load(kPath, "F", 32).rows, rows);
+}
+
+TEST_F(LoadSymbols_, TextsOfDialogAndMenuMayHave65534Characters) {
+  const std::string dialog = "F DIALOG\nMENU M\nBEGIN\n LTEXT \"\",A,1,1,1,1\n";
+  const std::string menu = "M MENU\nBEGIN\n MENUITEM \"\",B\n";
+  const auto padded = [](const std::string& head, std::size_t length) {
+    std::string text = head;
+    while (text.size() + 3 < length)
+      text += std::string(std::min<std::size_t>(999, length - 4 - text.size()), ' ') + "\n";
+    return text + "END";
+  };
+  const std::string defines = "#define A 1\n#define B 2\n";
+  const struct {
+    std::size_t dialog, menu;
+    const char* rows;
+    const char* uses;
+  } cases[] = {{65534, 65534, "A 1 0\nB 2 0\n", "A 1 1\nB 2 1\n"},
+               {65535, 100, "", "A 1 0\nB 2 0\n"},
+               {100, 65535, "A 1 0\n", "A 1 1\nB 2 0\n"}};
+  for (const auto& expected : cases) {
+    SCOPED_TRACE(::testing::Message() << expected.dialog << " and " << expected.menu);
+    test::WriteFile(kPath, defines + padded(dialog, expected.dialog) + "\n" + padded(menu, expected.menu));
+    EXPECT_EQ(Load(kPath, "F").rows, expected.rows);
+    EXPECT_EQ(Load(kPath, nullptr, 32).rows, expected.uses);
+  }
 }
 
 TEST_F(LoadSymbols_, ASecondDialogOfANameCountsTheFirstAgain) {
