@@ -55,5 +55,26 @@ TEST(MenuBuilder, BuildsTheSharedCasesOnThePlatformsMenus) {
   }
 }
 
+TEST(MenuBuilder, PopupsOfThePlatformMayNestAsDeepAsAFileCanHold) {
+  constexpr int kDepth = 4000;
+  std::string text = "M MENU BEGIN ";
+  for (int i = 0; i < kDepth; ++i) text += "POPUP,BEGIN ";
+  std::string whole = text;
+  for (int i = 0; i <= kDepth; ++i) whole += "END ";
+  ASSERT_LT(whole.size(), 65535u);
+  rc::AcceleratorTable keys{};
+  rc::Failure failure;
+  {
+    const OwnedMenu menu(
+        reinterpret_cast<HMENU>(rc::BuildMenu(whole.c_str(), MenuCaseSymbols(), keys, failure)));
+    int depth = 0;
+    for (HMENU popup = menu.get(); GetMenuItemCount(popup) == 1; popup = GetSubMenu(popup, 0)) ++depth;
+    EXPECT_EQ(depth, kDepth);
+  }
+  // Without its ENDs the menu is a failure, and the whole tree goes.
+  EXPECT_EQ(rc::BuildMenu(text.c_str(), MenuCaseSymbols(), keys, failure), nullptr);
+  EXPECT_EQ(failure.code, RTX_MENU_SYNTAX);
+}
+
 }  // namespace
 }  // namespace brelt::test
