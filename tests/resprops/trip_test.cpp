@@ -10,9 +10,9 @@
 namespace brelt::test {
 namespace {
 
-// How many cases of each kind a run makes, so that more than a hundred thousand resources and property arrays,
-// of several records each, come to a comparison. BRELT_CASES asks for another number, BRELT_SEED for other
-// cases.
+// How many cases of each kind a run makes, so that more than a hundred thousand resources and property
+// arrays, of several records each, come to a comparison. BRELT_CASES asks for another number, BRELT_SEED for
+// other cases.
 constexpr int kCases = 27000;
 
 int NumberFrom(const char* variable, int otherwise) {
