@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/resprops/propsupport.h"
+#include "tests/resprops/surgerysupport.h"
 
 namespace brelt::resprops {
 namespace {
@@ -328,6 +329,33 @@ TEST(ResourceRead, CutsTheFileNameOfAnIconAt259Characters) {
   const Texts rows = ReadRowsOf("I1 ICON \"" + name + "\"\n" + FormWith("ICON \"I1\",A,1,2,3,4"));
   ASSERT_EQ(rows.size(), 2U);
   EXPECT_EQ(ValueOf(rows[1], "PICTURE"), "\"" + name.substr(0, 259) + "\"");
+}
+
+// No reader makes records like these, but whoever fills rows from a table of his own may.
+TEST(RecordsToProperties, KeepsTheNumberOfTheFirstRecordAndShowsNamesCutAt40) {
+  test::ResetHost();
+  Rows rows(200);
+  rows.Fill({});
+  rc::RecordArray records;
+  const auto fill = [&](const std::string& resource) {
+    return test::MessageOf([&](rc::TextBuffer buffer) {
+      ErrorText error(buffer);
+      RecordsToProperties(records.table(), "none.rc", resource.c_str(), {rows.pointers(), 256, rows.size()},
+                          error);
+    });
+  };
+  records[0].keyword.Assign("MENU");
+  records[0].name.Assign("100");
+  records[1].keyword.Assign("MENUITEM");
+  records[1].name.Assign("0x1");
+  EXPECT_EQ(fill("M"), "");
+  EXPECT_EQ(ValueOf(rows.Text(0), "NAME"), "100");
+  EXPECT_EQ(ValueOf(rows.Text(1), "NAME"), "Noname1");
+  const std::string letters(60, 'n');
+  records[1].keyword.Assign(letters);
+  records[1].name.Assign(letters);
+  EXPECT_EQ(fill(letters), "Window <" + letters.substr(20) + ">, object 1 <" + letters.substr(20) +
+                               ">, RC type <" + letters.substr(20) + "> has properties which can't be read.");
 }
 
 // ---- Limits ----
