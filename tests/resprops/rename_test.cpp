@@ -97,6 +97,12 @@ TEST(ResourceRename, CutsNamesAt40) {
   EXPECT_EQ(test::ReadFile(kRc), Crlf(std::string(40, 'x') + " ICON a.ico\n"));
 }
 
+TEST(ResourceRename, CutsItsMessageToTheBuffer) {
+  test::SetFile("A ICON a.ico\n");
+  test::ExpectCutToFit(Rename("NONE", "B"),
+                       [](rc::TextBuffer error) { ResourceRename(kRc, "NONE", "B", error); });
+}
+
 TEST(ResourceRename, DoesNothingWithoutAnErrorBuffer) {
   test::SetFile("A ICON a.ico\n");
   ResourceRename(kRc, "A", "B", {});

@@ -160,6 +160,11 @@ TEST(ResourceWriteText, TellsWhyItCannotInAFixedOrder) {
   EXPECT_EQ(test::ReadFile(kRc), "A ICON a.ico\n");
 }
 
+TEST(ResourceWriteText, CutsItsMessageToTheBuffer) {
+  test::SetFile("A ICON a.ico\n");
+  test::ExpectCutToFit(WriteText("A"), [](rc::TextBuffer error) { ResourceWriteText(kRc, "A", error); });
+}
+
 TEST(ResourceWriteText, DoesNothingToAFolder) {
   test::ResetHost();
   test::MakeDirectory(kRc);
