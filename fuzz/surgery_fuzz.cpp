@@ -1,6 +1,5 @@
 // Changes to any file: a line with a resource's name, a line with another name, the text of a resource up to
-// a line
-// "====", the RC file up to another, and the header resource.h behind it.
+// a line "====", the RC file up to another, and the header resource.h behind it.
 #include "fuzz/input.h"
 #include "resprops/resourceinfo.h"
 #include "resprops/surgery.h"

@@ -158,6 +158,8 @@ rc::FixedText<120> StubDialog(const char* name) noexcept {
 void DeleteResource(const char* path, const char* name, DeleteMode mode, ErrorText& error) noexcept {
   if (rc::IsEmpty(name)) return;
   if (!rc::IsFullPathName(path)) return error.Take(rc::BadFileNameMessage(path).view());
+  // Whoever deletes from a file that isn't there hears nothing, not even that memory is short.
+  if (rc::FileSizeOf(path) < 0) return;
   Deletion(path, error).Run(name, mode);
 }
 

@@ -32,33 +32,44 @@ void Replace(const rc::LineRange& lines, const char* text, const char* path, Err
   rewrite.Finish(error);
 }
 
-// Whether an empty line must come first so that a text at the end of a file stands by itself. A mark that
-// ends the text goes: what came behind it would never be read.
-bool PrepareEnd(const char* path) noexcept {
-  const std::int32_t size = rc::FileSizeOf(path);
-  if (size < 1) return false;
-  std::uint64_t end = 0;
-  bool isOpen = false;
+// Whether the last line of a text isn't empty.
+bool EndsInText(rc::LineReader& reader) noexcept {
+  rc::Line line;
   bool hasText = false;
-  {
-    rc::LineReader reader(path);
-    rc::Line line;
-    isOpen = reader.IsOpen();
-    while (isOpen && reader.Next(line)) {
-      TrimLine(line);
-      hasText = line.length > 0;
-    }
-    isOpen = isOpen && !reader.HasFailed();
-    end = reader.Offset();
+  bool isOpenLine = false;
+  while (reader.Next(line)) {
+    // The line feed of a line that fills its pieces comes as a piece of its own, and is no empty line.
+    const bool endsOpenLine = isOpenLine;
+    isOpenLine = !line.HasLineFeed();
+    TrimLine(line);
+    hasText = line.length > 0 || endsOpenLine;
   }
-  if (isOpen && end + 1 == static_cast<std::uint64_t>(size)) host::CutFile(path, end);
   return hasText;
 }
 
-void Append(const char* text, const char* path, ErrorText& error) noexcept {
-  const bool needsEmptyLine = PrepareEnd(path);
+// Gets a file that exists ready for a text at its end, and gives its size; needsEmptyLine tells whether an
+// empty line must come first so that the text stands by itself. A mark that ends the file's text goes: what
+// came behind it would never be read. False where something of this can't be done.
+bool PrepareEnd(const char* path, std::uint64_t& size, bool& needsEmptyLine) noexcept {
+  if (!host::QueryFileSize(path, size)) return false;
+  if (size == 0) return true;
+  std::uint64_t end = 0;
+  {
+    rc::LineReader reader(path);
+    if (!reader.IsOpen()) return false;
+    needsEmptyLine = EndsInText(reader);
+    if (reader.HasFailed()) return false;
+    end = reader.Offset();
+  }
+  if (end + 1 != size) return true;
+  size = end;
+  return host::CutFile(path, end);
+}
+
+void Append(const char* text, const char* path, bool existed, ErrorText& error) noexcept {
   std::uint64_t size = 0;
-  const bool existed = host::QueryFileSize(path, size);
+  bool needsEmptyLine = false;
+  if (existed && !PrepareEnd(path, size, needsEmptyLine)) return error.Take(kReadOnlyMessage, path);
   TextFile file(path, host::OpenMode::kAppend);
   if (!file.IsOpen()) return;
   if (needsEmptyLine) file.Write("\n");
@@ -92,7 +103,7 @@ void ReplaceOrAppendResource(const char* name, const char* text, const char* pat
   } else if (lines.first != 0) {
     Replace(lines, text, path, error);
   } else {
-    Append(text, path, error);
+    Append(text, path, exists, error);
   }
 }
 

@@ -21,11 +21,8 @@ class Query {
     if (!Check()) return;
     if (IsSymbolQuery()) {
       ListSymbols(flags);
-    } else if (IsList()) {
-      rc::LocateResource(rcFile_, name_, type_, output_);
-      if (IsFull()) error_.Take("Buffer string is not big enough");
     } else {
-      FindOne();
+      Locate();
     }
   }
 
@@ -33,7 +30,7 @@ class Query {
   bool Check() noexcept;
   bool IsKnownType() const noexcept;
   void ListSymbols(std::int32_t flags) noexcept;
-  void FindOne() noexcept;
+  void Locate() noexcept;
   void FailOne(const char* reason) noexcept;
 
   bool IsSymbolQuery() const noexcept { return rc::EqualIgnoreCase(type_, kControls); }
@@ -88,8 +85,15 @@ void Query::ListSymbols(std::int32_t flags) noexcept {
   if (IsFull()) error_.Take("Buffer string is not big enough");
 }
 
-void Query::FindOne() noexcept {
-  if (rc::LocateResource(rcFile_, name_, type_, output_) == 0) {
+void Query::Locate() noexcept {
+  rc::LineRange lines;
+  const int length = rc::LocateResource(rcFile_, name_, type_, output_, &lines);
+  if (lines.broken) {
+    // Half an answer looks like a whole one.
+    error_.Take(rc::UnreadableFileMessage(rcFile_).view());
+  } else if (IsList()) {
+    if (IsFull()) error_.Take("Buffer string is not big enough");
+  } else if (length == 0) {
     FailOne("> was not in the RC file");
   } else if (IsFull()) {
     FailOne(">, buffer is too small");

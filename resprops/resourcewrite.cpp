@@ -162,10 +162,11 @@ void Writing::WriteSymbols() noexcept {
   RewriteSymbols(path_.c_str(), rows, report.includeLines, report.includeName.view());
 }
 
-// Names without a number get one; a name beyond the table's room is dropped. A common identifier gets one
-// too, which nobody else can then have, though its line is never written.
+// Names without a number get one, each once, as the window's names are told once each; a name beyond the
+// table's room is dropped. A common identifier gets one too, which nobody else can then have, though its line
+// is never written.
 int Writing::AddNames(int count, int added) noexcept {
-  rc::SymbolIndex index({all_.get(), all_.count()});
+  const rc::SymbolIndex index({all_.get(), all_.count()});
   for (int i = 0; i < added && count < rc::kSymbolCount; ++i) {
     const rc::SymbolRecord& name = own_[static_cast<std::size_t>(i)];
     if (index.Find(name.Name.view()) != rc::SymbolIndex::kNone) continue;
@@ -173,7 +174,6 @@ int Writing::AddNames(int count, int added) noexcept {
     row.Value = NextFreeId({all_.get(), static_cast<std::size_t>(count)});
     row.Name = name.Name;
     row.Uses = 1;
-    index.Add();
     ++count;
   }
   return count;

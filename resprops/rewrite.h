@@ -35,8 +35,7 @@ class Rewrite {
   ~Rewrite() { End(); }
 
   // Goes to the next line of the old text; false behind the last, and at once where the file can't be
-  // rewritten. A line longer than the reader's limit comes
-  // in pieces, which are lines of their own.
+  // rewritten. A line longer than the reader's limit comes in pieces, which are lines of their own.
   bool Next() noexcept;
   // Begins again with the first line.
   void Restart() noexcept;

@@ -17,7 +17,8 @@ done
 
 # ---- The Windows side ----
 
-# Loading forms and property calls, with the program and the server it talks to on one processor.
+# Loading forms, property calls, and the designer's side once more on the files that programs get, with the program
+# and the server it talks to on one processor.
 bench_windows() {
   local program
   build_preset win32 "$@" brelt
@@ -26,4 +27,4 @@ bench_windows() {
     WINE_PROCESSOR=$(($(nproc) - 1)) wine_run null "build/win32/bin/$program.exe" | tr -d '\r'
   done
 }
-bench_windows load_bench property_bench
+bench_windows load_bench property_bench resprops_bench

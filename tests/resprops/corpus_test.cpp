@@ -260,6 +260,13 @@ class Surgery {
     }
   }
 
+  // Whether a line includes a header, by whatever marks its name is enclosed.
+  static bool IsIncludeOf(std::string_view header, const std::string& line) {
+    if (header.empty() || !line.starts_with("#include")) return false;
+    const std::size_t begin = line.find_first_not_of(" \t\"<", std::string_view("#include").size());
+    return begin != std::string::npos && rc::EqualIgnoreCase(line.substr(begin, header.size()), header);
+  }
+
   // Each line outside the resources that go with a form, the #define lines, the include resource and its
   // #include must still be there, in the same order. Empty lines are looked at by the results that were
   // agreed on.
@@ -282,7 +289,7 @@ class Surgery {
       rc::FoldToUpper(owner.data());
       const bool isTaken = walk.IsInside() && names.contains(owner);
       const bool isInInclude = number >= report.includeLines.first && number <= report.includeLines.last;
-      const bool isMarked = text.starts_with("#define") || text.starts_with("#include");
+      const bool isMarked = text.starts_with("#define") || IsIncludeOf(report.includeName.view(), text);
       const Piece& piece = pieces_[static_cast<std::size_t>(number) - 1];
       if (!isTaken && !isInInclude && !isMarked && !piece.text.empty()) kept.push_back(piece);
     }

@@ -149,6 +149,9 @@ TEST(ResourceDelete, SaysNothingAboutWhatIsNotThere) {
   EXPECT_EQ(Delete("A", "c:\\\\work\\a.rc"), "");
   EXPECT_EQ(test::MessageOf([](rc::TextBuffer error) { ResourceDelete(kRc, nullptr, error); }), "");
   ResourceDelete(kRc, "A", {});
+  // Not even that there is no memory for it.
+  test::FailAllocation(0);
+  EXPECT_EQ(Delete("A", "none.rc"), "");
   EXPECT_EQ(test::ReadFile(kRc), "A ICON a.ico\n");
   EXPECT_EQ(test::ListFiles().size(), 2U);
 }

@@ -169,6 +169,34 @@ TEST(ResourceInfo, CutsItsMessageToTheBuffer) {
   EXPECT_STREQ(output, "");
 }
 
+TEST(ResourceInfo, GivesAWholeAnswerOrAMessageWhateverFileOperationFails) {
+  struct Case {
+    const char* type;
+    const char* name;
+  };
+  const Case cases[] = {{"*", "*"}, {"*", "M"}, {"Dialog", "*"}, {"Dialog", "D"}, {"Controls", "*"}};
+  test::SetFile(kFile);
+  // Then the file takes several reads.
+  test::LimitReads(40);
+  for (const Case& asked : cases) {
+    SCOPED_TRACE(std::string(asked.type) + " " + asked.name);
+    test::FailFileOperation(-1);
+    const std::string whole = Ask(kRc, asked.type, asked.name);
+    const int count = test::FileOperationCount();
+    ASSERT_GT(count, 6);
+    for (int n = 0; n < count; ++n) {
+      SCOPED_TRACE(n);
+      test::FailFileOperation(n);
+      const std::string answer = Ask(kRc, asked.type, asked.name);
+      EXPECT_TRUE(answer == whole || answer == "! RC file <c:\\work\\a.rc> does not exist" ||
+                  answer == "! The file <c:\\work\\a.rc> does not exist" ||
+                  answer == "! The file <c:\\work\\a.rc> could not be opened")
+          << answer;
+      EXPECT_EQ(test::OpenFiles(), 0);
+    }
+  }
+}
+
 TEST(ResourceInfo, EachAllocationThatFailsIsTold) {
   test::SetFile(kFile);
   const std::string whole = Ask(kRc, "Controls", "D", 32);

@@ -100,7 +100,9 @@ std::string RandomInput::Control() {
   }
   text += Identifier();
   if (statement.form == rc::StatementForm::kControl) {
-    static const std::string_view kClasses[] = {"BITMAPBUTTON", "Image", "iconlist", "PROGRESSBAR", "shape"};
+    static const std::string_view kClasses[] = {
+        "BITMAPBUTTON", "Image", "iconlist",  "PROGRESSBAR", "shape", "Button", "COMBOBOX",
+        "edit",         "Gauge", "SHAPE.1.3", "LISTBOX",     "",      "static", "Scrollbar"};
     return text + ",\"" + Any(kClasses) + "\"," + StyleList(true) + "," + Coordinates();
   }
   text += "," + Coordinates();

@@ -260,6 +260,19 @@ TEST_F(RecordsToTextTest, BreaksAControlThatReachesBeyond1024Columns) {
                         "\",A,\n                   1,-2,3,4\nEND\n");
 }
 
+TEST_F(RecordsToTextTest, PutsATextTooLongForItsLineAtTheControlsOwnIndent) {
+  AddAt("DIALOG", "D");
+  AddAt("LTEXT", "A", std::string(255, '\x01').c_str(), rc::StyleBits("WS_VISIBLE|WS_GROUP"));
+  AddAt("CONTROL", "B", std::string(255, '\x01').c_str(), rc::StyleBits("WS_VISIBLE"))
+      .className.Assign("IMAGE");
+  std::string quoted;
+  for (int i = 0; i < 255; ++i) quoted += "\\x01";
+  const std::string continued = "\n                   ";
+  EXPECT_EQ(Text(), "D DIALOG 1,-2,3,4\nSTYLE WS_OVERLAPPED\nBEGIN\n    LTEXT          \n    \"" + quoted +
+                        "\"," + continued + "A,1,-2,3,4\n    CONTROL        " + continued + "\"" + quoted +
+                        "\"," + continued + "B,\"IMAGE\",0,1,-2,3,4\nEND\n");
+}
+
 TEST_F(RecordsToTextTest, StopsAtARecordWithoutAKeyword) {
   AddAt("DIALOG", "D");
   AddAt("", "X");

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/resprops/propsupport.h"
+#include "tests/resprops/surgerysupport.h"
 
 namespace brelt::resprops {
 namespace {
@@ -261,6 +262,22 @@ TEST(ResourceRead, ReadsTheControlsPropertiesFromTheirStyles) {
       {"CONTROL \"\",B,\"SHAPE.1.3\",WS_BORDER,1,2,3,4", "BORDERSTYLE", "1"},
       {"CONTROL \"\",B,\"SHAPE.1.3\",WS_BORDER,1,2,3,4", "TYPEOF", "Shape"},
       {"CONTROL \"x.bmp\",B,\"IMAGE.1.3\",0,1,2,3,4", "PICTURE", "\"\""},
+      {"CONTROL \"\",B,\"BITMAPBUTTON.1.3\",BB_RADIOSTYLE|BB_TRANSPARENT,1,2,3,4", "BUTTONSTYLE", "0"},
+      {"CONTROL \"\",B,\"BITMAPBUTTON.1.3\",BB_RADIOSTYLE|BB_TRANSPARENT,1,2,3,4", "TRANSPARENTCOLOUR", "-1"},
+      {"CONTROL \"\",B,\"PROGRESSBAR.1.3\",0xFFF,1,2,3,4", "ALIGNMENT", "0"},
+      {"CONTROL \"\",B,\"PROGRESSBAR.1.3\",0xFFF,1,2,3,4", "BACKCOLOUR", "0"},
+      {"CONTROL \"\",B,\"PROGRESSBAR.1.3\",0xFFF,1,2,3,4", "FORECOLOUR", "0"},
+      {"CONTROL \"\",B,\"ICONLIST.1.3\",WS_HSCROLL|LBS_SORT,1,2,3,4", "SCROLLBARS", "0"},
+      {"CONTROL \"\",B,\"ICONLIST.1.3\",WS_HSCROLL|LBS_SORT,1,2,3,4", "SORTED", "0"},
+      {"CONTROL \"\",B,\"COMBOBOX.1\",CBS_SIMPLE|CBS_SORT,1,2,3,4", "COMBOSTYLE", "0"},
+      {"CONTROL \"\",B,\"COMBOBOX.1\",CBS_SIMPLE|CBS_SORT,1,2,3,4", "SORTED", "0"},
+      {"CONTROL \"\",B,\"EDIT.1\",ES_CENTER|ES_MULTILINE|WS_VSCROLL,1,2,3,4", "ALIGNMENT", "0"},
+      {"CONTROL \"\",B,\"EDIT.1\",ES_CENTER|ES_MULTILINE|WS_VSCROLL,1,2,3,4", "MULTILINE", "0"},
+      {"CONTROL \"\",B,\"EDIT.1\",ES_CENTER|ES_MULTILINE|WS_VSCROLL,1,2,3,4", "SCROLLBARS", "0"},
+      {"CONTROL \"\",B,\"EDITWINDOW.1\",0,1,2,3,4", "TYPEOF", "Editwindow"},
+      {"CONTROL \"\",B,\"PUSHBUTTON\",BS_DEFPUSHBUTTON,1,2,3,4", "DEFAULT", "0"},
+      {"CONTROL \"\",B,\"CHECKBOX\",0,1,2,3,4", "ALIGNMENT", "0"},
+      {"CONTROL \"\",B,\"ICON\",SS_ICON,1,2,3,4", "PICTURE", "\"\""},
       // The kinds of windows and menu items as classes of controls.
       {"CONTROL \"\",B,\"DIALOG\",WS_CAPTION|DS_CENTER,1,2,3,4", "TYPEOF", "Dialog"},
       {"CONTROL \"\",B,\"DIALOG\",WS_CAPTION|DS_CENTER,1,2,3,4", "CAPTION", "\"\""},
@@ -312,6 +329,33 @@ TEST(ResourceRead, CutsTheFileNameOfAnIconAt259Characters) {
   const Texts rows = ReadRowsOf("I1 ICON \"" + name + "\"\n" + FormWith("ICON \"I1\",A,1,2,3,4"));
   ASSERT_EQ(rows.size(), 2U);
   EXPECT_EQ(ValueOf(rows[1], "PICTURE"), "\"" + name.substr(0, 259) + "\"");
+}
+
+// No reader makes records like these, but whoever fills rows from a table of his own may.
+TEST(RecordsToProperties, KeepsTheNumberOfTheFirstRecordAndShowsNamesCutAt40) {
+  test::ResetHost();
+  Rows rows(200);
+  rows.Fill({});
+  rc::RecordArray records;
+  const auto fill = [&](const std::string& resource) {
+    return test::MessageOf([&](rc::TextBuffer buffer) {
+      ErrorText error(buffer);
+      RecordsToProperties(records.table(), "none.rc", resource.c_str(), {rows.pointers(), 256, rows.size()},
+                          error);
+    });
+  };
+  records[0].keyword.Assign("MENU");
+  records[0].name.Assign("100");
+  records[1].keyword.Assign("MENUITEM");
+  records[1].name.Assign("0x1");
+  EXPECT_EQ(fill("M"), "");
+  EXPECT_EQ(ValueOf(rows.Text(0), "NAME"), "100");
+  EXPECT_EQ(ValueOf(rows.Text(1), "NAME"), "Noname1");
+  const std::string letters(60, 'n');
+  records[1].keyword.Assign(letters);
+  records[1].name.Assign(letters);
+  EXPECT_EQ(fill(letters), "Window <" + letters.substr(20) + ">, object 1 <" + letters.substr(20) +
+                               ">, RC type <" + letters.substr(20) + "> has properties which can't be read.");
 }
 
 // ---- Limits ----

@@ -72,12 +72,14 @@ TEST(ResourceRename, TellsWhyItCannotInAFixedOrder) {
   test::SetReadOnly(kRc, true);
   EXPECT_EQ(Rename("", ""), "Cannot modify the following read-only file: c:\\work\\a.rc");
   EXPECT_EQ(Rename("", "", "none.rc"), "Resource file <c:\\work\\none.rc> is invalid or missing.");
+  test::MakeDirectory("c:\\work\\folder.rc");
+  EXPECT_EQ(Rename("A", "C", "folder.rc"), "Resource file <c:\\work\\folder.rc> is invalid or missing.");
   EXPECT_EQ(Rename("", "", "sub\\a.rc"),
             "The file <sub\\a.rc> should be a full path with a drive letter or just a filename");
   EXPECT_EQ(Rename("", "", nullptr),
             "The file <> should be a full path with a drive letter or just a filename");
   EXPECT_EQ(test::ReadFile(kRc), text);
-  EXPECT_EQ(test::ListFiles().size(), 1U);
+  EXPECT_EQ(test::ListFiles().size(), 2U);
 }
 
 TEST(ResourceRename, CopiesTheFileAndSaysSoWhereTheFirstLineHasAnotherName) {
@@ -93,6 +95,12 @@ TEST(ResourceRename, CutsNamesAt40) {
   test::SetFile(longName + " ICON a.ico\n");
   EXPECT_EQ(Rename(longName, std::string(50, 'x')), "");
   EXPECT_EQ(test::ReadFile(kRc), Crlf(std::string(40, 'x') + " ICON a.ico\n"));
+}
+
+TEST(ResourceRename, CutsItsMessageToTheBuffer) {
+  test::SetFile("A ICON a.ico\n");
+  test::ExpectCutToFit(Rename("NONE", "B"),
+                       [](rc::TextBuffer error) { ResourceRename(kRc, "NONE", "B", error); });
 }
 
 TEST(ResourceRename, DoesNothingWithoutAnErrorBuffer) {

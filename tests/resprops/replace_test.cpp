@@ -55,6 +55,41 @@ TEST(ResourceWriteText, GoesToTheEndOfTheFileBehindAnEmptyLine) {
   }
 }
 
+TEST(ResourceWriteText, StandsByItselfBehindALastLineOfAnyLength) {
+  for (const std::size_t length : {1, 1023, 1024, 1025, 2048, 5000}) {
+    SCOPED_TRACE(length);
+    const std::string line(length, '-');
+    EXPECT_EQ(AfterWriteText(line + "\n", "N ICON n.ico\n"), line + "\n" + Crlf("\nN ICON n.ico\n\n"));
+    EXPECT_EQ(AfterWriteText(line, "N ICON n.ico\n"), line + Crlf("\nN ICON n.ico\n\n"));
+    EXPECT_EQ(AfterWriteText(line + "\n\n", "N ICON n.ico\n"), line + "\n\n" + Crlf("N ICON n.ico\n\n"));
+  }
+}
+
+// Behind a mark nobody would ever find it. Only a file whose size can't be had at first counts as none.
+TEST(ResourceWriteText, IsRefusedWhereAMarkCannotBeTakenOff) {
+  const std::string before = "X ICON x.ico\n\x1A";
+  test::SetFile(before);
+  test::FailFileOperation(-1);
+  WriteText("N ICON n.ico\n");
+  const int count = test::FileOperationCount();
+  int refused = 0;
+  int unseen = 0;
+  for (int n = 0; n < count; ++n) {
+    SCOPED_TRACE(n);
+    test::SetFile(before);
+    test::FailFileOperation(n);
+    const std::string message = WriteText("N ICON n.ico\n");
+    unseen += test::ReadFile(kRc).find("\x1A\r\nN ICON") != std::string::npos ? 1 : 0;
+    if (test::ReadFile(kRc) != before || message.empty()) continue;
+    EXPECT_TRUE(message == "Cannot modify the following read-only file: c:\\work\\a.rc" ||
+                message == "The file <c:\\work\\a.rc> could not be opened")
+        << message;
+    ++refused;
+  }
+  EXPECT_LE(unseen, 1);
+  EXPECT_GE(refused, 5);
+}
+
 TEST(ResourceWriteText, TakesAMarkOffTheEndAheadOfWhatItAppends) {
   EXPECT_EQ(AfterWriteText("X ICON x.ico\n\x1A", "N ICON n.ico\n"), "X ICON x.ico\n\r\nN ICON n.ico\r\n\r\n");
   EXPECT_EQ(AfterWriteText("\x1A", "N ICON n.ico\n"), "N ICON n.ico\r\n\r\n");
@@ -123,6 +158,11 @@ TEST(ResourceWriteText, TellsWhyItCannotInAFixedOrder) {
   ResourceWriteText("b.rc", "A ICON a\n", {});
   EXPECT_EQ(test::ListFiles().size(), 1U);
   EXPECT_EQ(test::ReadFile(kRc), "A ICON a.ico\n");
+}
+
+TEST(ResourceWriteText, CutsItsMessageToTheBuffer) {
+  test::SetFile("A ICON a.ico\n");
+  test::ExpectCutToFit(WriteText("A"), [](rc::TextBuffer error) { ResourceWriteText(kRc, "A", error); });
 }
 
 TEST(ResourceWriteText, DoesNothingToAFolder) {

@@ -117,9 +117,11 @@ rc::ResourceRecord ExpectedControl(const rc::ResourceRecord& control) {
   const std::string_view keyword = control.keyword.view();
   expected.text.Assign(rc::KeywordHasText(keyword) ? ReadBackText(control.text.view()) : "");
   if (keyword == "CONTROL") {
-    const bool isKnown = rc::FindStyleKeyword(control.className.view()) != nullptr;
-    expected.style =
-        isKnown ? SaidBits(control.className.view(), control.style) : rc::StyleBits("WS_VISIBLE");
+    // The reader knows no defaults of a class but that it shows.
+    const rc::StyleKeyword* row = rc::FindStyleKeyword(control.className.view());
+    const std::uint32_t unsaid = row != nullptr ? row->defaults.bits & ~rc::StyleBits("WS_VISIBLE") : 0;
+    expected.style = row != nullptr ? SaidBits(control.className.view(), control.style) & ~unsaid
+                                    : rc::StyleBits("WS_VISIBLE");
   } else {
     expected.style = SaidBits(keyword, control.style) | rc::FindControlStatement(keyword)->typeBits;
     if ((expected.style & 0xF) == 0) expected.style |= rc::FindStyleKeyword(keyword)->type.bits;

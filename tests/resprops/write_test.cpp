@@ -421,6 +421,13 @@ TEST(ResourceWrite, FailsEachStepOnAReadOnlyFileAndLeavesItAsItWas) {
   EXPECT_EQ(test::ListFiles().size(), 1U);
 }
 
+TEST(ResourceWrite, TellsThatAFolderIsNoFile) {
+  test::ResetHost();
+  test::MakeDirectory(kRc);
+  EXPECT_EQ(Write(kDemo, kDemoMenu), "The file <c:\\work\\a.rc> does not exist");
+  EXPECT_EQ(test::ListFiles().size(), 1U);
+}
+
 TEST(ResourceWrite, EachAllocationThatFailsIsToldAndLosesNothing) {
   const std::string before = "#define KEPT 7\n\n" +
                              std::string(kDemoText).substr(std::string(kDemoText).find("Main_Ico1")) +

@@ -6,12 +6,32 @@
 
 namespace brelt::test {
 
-ChildProcess::ChildProcess(const std::string& program, const std::string& arguments) {
+namespace {
+
+// Makes a file that a child can write to.
+HANDLE OpenForChild(const std::string& path) {
+  SECURITY_ATTRIBUTES inherited = {};
+  inherited.nLength = sizeof inherited;
+  inherited.bInheritHandle = TRUE;
+  return CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
+}
+
+}  // namespace
+
+ChildProcess::ChildProcess(const std::string& program, const std::string& arguments,
+                           const std::string& output) {
   std::string command = "\"" + ProgramFolder() + program + "\" " + arguments;
+  const bool prints = !output.empty();
   STARTUPINFOA start = {};
   start.cb = sizeof start;
-  EXPECT_TRUE(CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+  if (prints) {
+    start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdOutput = start.hStdError = OpenForChild(output);
+    EXPECT_NE(start.hStdOutput, INVALID_HANDLE_VALUE);
+  }
+  EXPECT_TRUE(CreateProcessA(nullptr, command.data(), nullptr, nullptr, prints, 0, nullptr, nullptr, &start,
                              &process_));
+  if (prints) CloseHandle(start.hStdOutput);
 }
 
 ChildProcess::~ChildProcess() {

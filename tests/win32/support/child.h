@@ -7,10 +7,11 @@
 
 namespace brelt::test {
 
-// A program of the tests' own folder, with its arguments. It is ended with this if it still runs.
+// A program of the tests' own folder, with its arguments. It is ended with this if it still runs. With the
+// path of an output file that file takes what the program prints, errors too.
 class ChildProcess {
  public:
-  ChildProcess(const std::string& program, const std::string& arguments);
+  ChildProcess(const std::string& program, const std::string& arguments, const std::string& output = "");
   ChildProcess(const ChildProcess&) = delete;
   ChildProcess& operator=(const ChildProcess&) = delete;
   ~ChildProcess();
