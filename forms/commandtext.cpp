@@ -26,10 +26,10 @@ class CharacterQueue {
     if (quits_) PostQuitMessage(exitCode_);
   }
 
-  // Waits for the next character; false when the time is up. It waits actively: the rest was posted with the
-  // first.
+  // Waits for the next character; false when the time is up, or the window gone, for which none can come any
+  // more. It waits actively: the rest was posted with the first.
   bool Next(char& character) noexcept {
-    while (Now() - start_ <= kWaitUnits) {
+    while (IsWindow(window_) && Now() - start_ <= kWaitUnits) {
       MSG next;
       if (!PeekMessageA(&next, window_, XM_COMMANDCHAR, XM_COMMANDCHAR, PM_REMOVE | PM_NOYIELD)) continue;
       if (next.message == XM_COMMANDCHAR) {

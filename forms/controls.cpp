@@ -42,12 +42,6 @@ bool IsPictureClass(std::string_view className) noexcept {
   return kPictureClasses.find(upper.view()) != std::string_view::npos;
 }
 
-std::string_view TrimBlanks(std::string_view text) noexcept {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-  return text;
-}
-
 // A list that was just made is empty without being told.
 void FillNewList(HWND control, const ResourceRecord& record) noexcept {
   if (!record.text.IsEmpty()) FillListItems(control, record.text.c_str());
@@ -115,7 +109,7 @@ OwnedIcon ControlMaker::LoadControlIcon(ResourceRecord& record) noexcept {
   if (iconName.IsEmpty()) return {};
   host::Path file;
   rc::ResourceIconFile(source_.rcPath, iconName.c_str(), file);
-  file.Assign(TrimBlanks(file.view()));
+  file.Assign(rc::TrimBlanks(file.view()));
   rc::QualifyFileName(file.c_str(), rcFolder_.c_str(), file);
   if (file.IsEmpty()) {
     failure_.Format(
@@ -202,7 +196,7 @@ void ControlMaker::QualifyPicture(ResourceRecord& record) noexcept {
   const std::string_view text = record.text.view();
   const std::size_t lineFeed = text.find('\n');
   const FixedText<254> hint(lineFeed == std::string_view::npos ? std::string_view() : text.substr(lineFeed));
-  host::Path file(TrimBlanks(text.substr(0, lineFeed)));
+  host::Path file(rc::TrimBlanks(text.substr(0, lineFeed)));
   rc::QualifyFileName(file.c_str(), rcFolder_.c_str(), file);
   record.text.Assign(file.view());
   record.text.Append(hint.view());

@@ -49,12 +49,7 @@ HWND __stdcall GetHandle(const char* name, int32_t id, const char* controlName) 
 int32_t __stdcall GetName(const char* name, int32_t id, char* buffer, int32_t size) {
   const ObjectCall call(__func__, name, id, TextOutput{buffer, size});
   if (call.code() != RTX_OK) return call.code();
-  const WindowRow* row = nullptr;
-  if (id == 0) {
-    row = RecordOf(call.window());
-  } else if (call.control() != nullptr && IsDialog(GetParent(call.control()))) {
-    row = RowOfControl(call.window(), call.control());
-  }
+  const WindowRow* row = id == 0 ? RecordOf(call.window()) : RowOfControl(call.window(), call.control());
   if (row != nullptr) rc::TextBuffer(buffer, size).Assign(row->name.view());
   return RTX_OK;
 }

@@ -260,8 +260,8 @@ BRELT_API(int32_t) IsModal(const char* name, uint8_t* isModal);
 BRELT_API(int32_t) DoEvents(void);
 
 /* Shows mainWindow and handles messages until no window of the thread is left, extraWindow aside, or WM_QUIT
- * comes. Without a main window, startFunction (may be null) is called once with zeros. Returns 0 if no window
- * is left, 1 if WM_QUIT ended the loop. instance is ignored.
+ * comes. Without a main window, startFunction (may be null) is called once with zeros. Returns 0 if no other
+ * window is left, 1 if WM_QUIT came while some were. instance is ignored.
  * Example:
  *   MainLoop(instance, form, NULL, NULL); */
 BRELT_API(int32_t)

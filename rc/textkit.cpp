@@ -49,6 +49,12 @@ void TrimLineEnd(char* text) noexcept {
   text[length] = '\0';
 }
 
+std::string_view TrimBlanks(std::string_view text) noexcept {
+  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+  return text;
+}
+
 bool LineWalk::Next(std::string_view& line) noexcept {
   const char* end = next_ != nullptr ? std::strchr(next_, '\n') : nullptr;
   if (end == nullptr) {

@@ -29,6 +29,9 @@ int CountChar(const char* text, char character) noexcept;
 // Removes all carriage returns and line feeds at the end, in place.
 void TrimLineEnd(char* text) noexcept;
 
+// A text without the blanks at its ends. Only the character 32 is a blank here.
+std::string_view TrimBlanks(std::string_view text) noexcept;
+
 // Copies line number (from 1) with its line feed, cut to the buffer. A line that no line feed closes doesn't
 // exist, so the result is empty for it as for a number past the end.
 void NthLine(const char* text, int number, TextBuffer line) noexcept;

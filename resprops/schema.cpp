@@ -1,16 +1,11 @@
 #include "resprops/schema.h"
 
 #include "rc/scan.h"
+#include "rc/textkit.h"
 #include "resprops/palette.h"
 
 namespace brelt::resprops {
 namespace {
-
-std::string_view TrimBlanks(std::string_view text) noexcept {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-  return text;
-}
 
 void AppendPalette(rc::TextWriter& writer) noexcept {
   const char* comma = "";
@@ -23,7 +18,7 @@ void AppendPalette(rc::TextWriter& writer) noexcept {
 }  // namespace
 
 ObjectType SchemaTypeOf(std::string_view typeName) noexcept {
-  return FindObjectType(TrimBlanks(typeName.substr(0, rc::kNameLength)));
+  return FindObjectType(rc::TrimBlanks(typeName.substr(0, rc::kNameLength)));
 }
 
 void ResourceTypelist(const char* typeName, rc::TextBuffer buffer) noexcept {

@@ -112,6 +112,23 @@ TEST(TrimLineEnd, RemovesAllReturnsAndLineFeedsAtTheEndOnly) {
   }
 }
 
+TEST(TrimBlanks, RemovesTheCharacter32AtBothEndsOnly) {
+  const struct {
+    const char* text;
+    const char* trimmed;
+  } cases[] = {{"", ""},
+               {"   ", ""},
+               {"a", "a"},
+               {"  a b ", "a b"},
+               {" \ta", "\ta"},
+               {"a\n ", "a\n"},
+               {"\xA0"
+                "a\xA0",
+                "\xA0"
+                "a\xA0"}};
+  for (const auto& expected : cases) EXPECT_EQ(TrimBlanks(expected.text), expected.trimmed) << expected.text;
+}
+
 std::string LineOf(const char* text, int number) {
   FixedText<100> line("soil");
   NthLine(text, number, line);

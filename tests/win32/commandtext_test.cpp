@@ -1,6 +1,6 @@
 // A text that comes to a window one character at a time.
 #include "tests/win32/support/forms.h"
-#include "tests/win32/support/input.h"
+#include "tests/win32/support/imports.h"
 
 namespace brelt::test {
 namespace {
@@ -123,20 +123,43 @@ TEST_F(CommandTextTest, OtherMessagesWaitUntilTheTextIsThere) {
   EXPECT_EQ(Log().events[1], (Event{EV_CUSTOM, 1, 1}));
 }
 
-DWORD WINAPI PostTheRest(void* window) {
-  Sleep(0);
-  for (const char c : {'b', 'c', '\0'}) PostMessageA(static_cast<HWND>(window), XM_COMMANDCHAR, 1, c);
-  return 0;
-}
+// Does something when the library has looked for the next character in vain three times.
+class ThirdMiss {
+ public:
+  explicit ThirdMiss(const std::function<void()>& action)
+      : import_("PeekMessageA", reinterpret_cast<void*>(&Peek)) {
+    action_ = action;
+    original_ = reinterpret_cast<decltype(original_)>(import_.original());
+    misses_ = 0;
+  }
+  int misses() const { return misses_; }
+
+ private:
+  static BOOL WINAPI Peek(MSG* message, HWND window, UINT first, UINT last, UINT flags) {
+    if (original_(message, window, first, last, flags)) return TRUE;
+    if (++misses_ == 3) action_();
+    return FALSE;
+  }
+
+  static inline std::function<void()> action_;
+  static inline BOOL(WINAPI* original_)(MSG*, HWND, UINT, UINT, UINT);
+  static inline int misses_;
+  ReplacedImport import_;
+};
 
 TEST_F(CommandTextTest, CharactersThatComeLaterAreWaitedFor) {
-  PostMessageA(window_, XM_COMMANDCHAR, 1, 'a');
-  HANDLE thread = CreateThread(nullptr, 0, PostTheRest, window_, CREATE_SUSPENDED, nullptr);
-  ResumeThread(thread);
-  Pump();
-  WaitForSingleObject(thread, INFINITE);
-  CloseHandle(thread);
+  const ThirdMiss miss([this] { PostText("bc", 1); });
+  SendMessageA(window_, XM_COMMANDCHAR, 1, 'a');
+  EXPECT_EQ(miss.misses(), 3);
   EXPECT_EQ(texts_, (std::vector<std::string>{"abc"}));
+}
+
+// A message that another thread sends may take the window along while its text is awaited.
+TEST_F(CommandTextTest, AWindowThatGoesWaitsForNoMoreCharacters) {
+  const ThirdMiss miss([this] { DestroyWindow(window_); });
+  SendMessageA(window_, XM_COMMANDCHAR, 1, 'a');
+  EXPECT_EQ(miss.misses(), 3);
+  EXPECT_TRUE(Heard(std::vector<Event>{}));
 }
 
 TEST_F(CommandTextTest, ATextWhoseEndNeverComesIsHeardAfterTwoSeconds) {

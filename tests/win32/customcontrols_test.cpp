@@ -246,6 +246,21 @@ TEST_F(CustomControlsTest, AreAskedForByFullPathsInTheTwoFolders) {
   asked.clear();
   LoadControl("Shape");
   EXPECT_EQ(asked[1], "X:\\SHAPE.1.3.2207.dll");
+  // A program without a path has no folder of its own.
+  const CountedImport<struct Naming, DWORD, HMODULE, LPSTR, DWORD> naming("GetModuleFileNameA", -1);
+  asked.clear();
+  LoadControl("Shape");
+  EXPECT_EQ(asked[0], "\\SHAPE.1.3.2207.dll");
+}
+
+TEST_F(CustomControlsTest, AreNotLoadedWithoutAnId) {
+  const ReplacedImport loading("LoadLibraryA", reinterpret_cast<void*>(&RecordAsked));
+  asked.clear();
+  answer = nullptr;
+  const LoadResult form = LoadDialog("Main", "  CONTROL \"\", IDC_UNKNOWN, \"Shape\", 0, 0, 0, 9, 9\n");
+  EXPECT_EQ(form.code, RTX_UNDEFINED_ID);
+  EXPECT_EQ(form.message, "Dialog <Main>, Control Type <CONTROL>, Control i/d <IDC_UNKNOWN> is undefined");
+  EXPECT_TRUE(asked.empty());
 }
 
 // On old systems a result below 33 was the number of an error.

@@ -73,11 +73,6 @@ TEST(ModuleEntry, RegistersNoClassOfItsOwn) {
   }
 }
 
-TEST(ModuleEntry, BringsTheCommonControls) {
-  const LoadedDll dll;
-  EXPECT_TRUE(ClassExists(nullptr, "msctls_trackbar32"));
-}
-
 TEST(ModuleTeardown, UnregistersTheClassThatWasUsed) {
   LoadedDll dll;
   const HWND window = dll.LoadForm();

@@ -28,6 +28,18 @@ TEST_F(KeptTest, TheFontIsTakenOnlyWhileThereIsNoControl) {
   EXPECT_EQ(RecordWordOf(window, kWordFont), font);
 }
 
+TEST_F(KeptTest, TheDrawFontIsAnotherOneAndCanBeReplaced) {
+  const HWND window = LoadShown("Main", "  LTEXT \"A\", 101, 1, 1, 10, 10");
+  const LRESULT font = SendMessageA(window, XM_GETDRAWFONT, 0, 0);
+  EXPECT_EQ(font, RecordWordOf(window, kWordDrawFont));
+  EXPECT_NE(font, 0);
+  EXPECT_NE(font, SendMessageA(window, WM_GETFONT, 0, 0));
+  EXPECT_EQ(SendMessageA(window, XM_SETDRAWFONT, 0x1234, 0), 0);
+  EXPECT_EQ(SendMessageA(window, XM_GETDRAWFONT, 0, 0), 0x1234);
+  EXPECT_EQ(RecordWordOf(window, kWordDrawFont), 0x1234);
+  SendMessageA(window, XM_SETDRAWFONT, static_cast<WPARAM>(font), 0);
+}
+
 // ---- The default button ----
 
 TEST_F(KeptTest, TheDefaultButtonIsItsIdWithAMark) {
@@ -49,6 +61,12 @@ TEST_F(KeptTest, TheDefaultButtonIsItsIdWithAMark) {
 TEST_F(KeptTest, AFormWithoutADefaultButtonHasNone) {
   const HWND window = LoadShown("Main", "  PUSHBUTTON \"A\", 101, 1, 1, 10, 10");
   EXPECT_EQ(SendMessageA(window, DM_GETDEFID, 0, 0), 0);
+}
+
+TEST_F(KeptTest, AnIdOverTheWordIsKeptWholeAndToldCut) {
+  const HWND window = LoadShown("Main", "  DEFPUSHBUTTON \"A\", 70103, 1, 1, 10, 10");
+  EXPECT_EQ(RecordWordOf(window, kWordDefaultId), 70103);
+  EXPECT_EQ(SendMessageA(window, DM_GETDEFID, 0, 0), static_cast<LRESULT>(0x534B0000 | (70103 & 0xFFFF)));
 }
 
 // ---- Text limits ----

@@ -34,7 +34,7 @@ class LeakTest : public FormTest {
   }
 };
 
-TEST_F(LeakTest, AFormOf255ControlsLeavesNothingInAThousandRounds) {
+TEST_F(LeakTest, AFormOf255ControlsWithAMenuLeavesNothingInAThousandRounds) {
   const char* const statements[] = {"LTEXT \"Label\",",
                                     "EDITTEXT",
                                     "PUSHBUTTON \"Button\",",
@@ -45,12 +45,14 @@ TEST_F(LeakTest, AFormOf255ControlsLeavesNothingInAThousandRounds) {
                                     "GROUPBOX \"Group\",",
                                     "CTEXT \"Label\",",
                                     "RADIOBUTTON \"Radio\","};
-  std::string text = "Main DIALOG 0, 0, 300, 300\nBEGIN\n";
-  for (int i = 0; i < 255; ++i) {
+  std::string text = "Main DIALOG 0, 0, 300, 300\nMENU Bar\nBEGIN\n";
+  for (int i = 0; i < 254; ++i) {
     text += std::string("  ") + statements[i % 10] + " " + std::to_string(100 + i) + ", " +
             std::to_string(i % 16 * 18) + ", " + std::to_string(i / 16 * 18) + ", 16, 14\n";
   }
-  ExpectNothingLeft(WriteTestFile("large.rc", text + "END\n"), 1000);
+  text += "  CONTROL \"\", 354, \"Shape\", 0, 0, 0, 9, 9\nEND\n";
+  text += "Bar MENU\nBEGIN\n  POPUP \"&File\"\n  BEGIN\n    MENUITEM \"Open\\tCtrl+O\", 400\n  END\nEND\n";
+  ExpectNothingLeft(WriteTestFile("large.rc", text), 1000);
 }
 
 TEST_F(LeakTest, AFormWithIconsMenuAndControlModulesLeavesNothing) {

@@ -33,6 +33,13 @@ TEST_F(LoadTest, MakesAHiddenWindowWithItsControls) {
   EXPECT_TRUE(IsWindow(GetDlgItem(form.window, IDOK)));
 }
 
+// The DLL brings them when it comes itself; control modules are made of them.
+TEST_F(LoadTest, ThereAreTheCommonControls) {
+  WNDCLASSEXA info = {};
+  info.cbSize = sizeof info;
+  EXPECT_TRUE(GetClassInfoExA(nullptr, "msctls_trackbar32", &info));
+}
+
 TEST_F(LoadTest, NeverMakesAVisibleWindow) {
   const LoadResult form =
       LoadText("Main", "Main DIALOG 0, 0, 100, 100\nSTYLE WS_VISIBLE | WS_POPUP\nBEGIN\nEND\n");
@@ -198,7 +205,9 @@ TEST_F(LoadTest, TakesTheFirstDefaultButtonInTheirOrder) {
        "0, 9, 9",
        7},
       {"  CONTROL \"a\", 9, \"button\", BS_DEFPUSHBUTTON, 0, 0, 9, 9", 9},
-      {"  LTEXT \"a\", 5, 0, 0, 9, 9\n  CONTROL \"a\", 6, \"STATIC\", 1, 0, 0, 9, 9", 0},
+      // The same type bits mean something else in other classes.
+      {"  CTEXT \"a\", 5, 0, 0, 9, 9\n  EDITTEXT 6, 0, 0, 9, 9, ES_CENTER", 0},
+      {"  CTEXT \"a\", 5, 0, 0, 9, 9\n  DEFPUSHBUTTON \"b\", 7, 0, 0, 9, 9", 7},
       {"", 0},
   };
   for (const Case& c : cases) {
@@ -398,6 +407,32 @@ TEST_F(LoadTest, GivesTheWindowItsMenuAndTheTableOfItsKeys) {
     EXPECT_EQ(table[row].Key, expected[row].Key);
     EXPECT_EQ(table[row].Command, expected[row].Command);
   }
+}
+
+// Whoever watches the creation of windows may have given it one.
+TEST_F(LoadTest, DestroysAMenuThatTheWindowHasAlready) {
+  static HMENU earlier;
+  earlier = nullptr;
+  struct Hook {
+    static LRESULT CALLBACK Give(int code, WPARAM wParam, LPARAM lParam) {
+      const auto* made = reinterpret_cast<const CBT_CREATEWNDA*>(lParam);
+      if (code == HCBT_CREATEWND && (made->lpcs->style & WS_CHILD) != 0) {
+        earlier = CreateMenu();
+        SetMenu(made->lpcs->hwndParent, earlier);
+      }
+      return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+  };
+  HHOOK hook = SetWindowsHookExA(WH_CBT, Hook::Give, nullptr, GetCurrentThreadId());
+  const LoadResult form =
+      LoadText("Main",
+               "Main DIALOG 0, 0, 9, 9\nMENU Bar\nBEGIN\n  LTEXT \"a\", 100, 0, 0, 9, 9\nEND\n"
+               "Bar MENU\nBEGIN\n  MENUITEM \"a\", 200\nEND\n");
+  UnhookWindowsHookEx(hook);
+  ASSERT_EQ(form.code, RTX_OK);
+  ASSERT_NE(earlier, nullptr);
+  EXPECT_FALSE(IsMenu(earlier));
+  EXPECT_EQ(GetMenuItemID(GetMenu(form.window), 0), 200u);
 }
 
 TEST_F(LoadTest, DrawsTheMenuBarForTheMenuAndForTheSystemMenu) {

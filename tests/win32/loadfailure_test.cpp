@@ -132,6 +132,21 @@ TEST_F(LoadFailureTest, Is725WithTheParsersMessage) {
       "Dialog <Main>, Control Type <LTEXT>, Control i/d <100>, Statement 1 has incorrect syntax");
 }
 
+TEST_F(LoadFailureTest, MakesNoWindowWhereTheFileIsWrong) {
+  const CountedImport<struct Creating, HWND, DWORD, LPCSTR, LPCSTR, DWORD, int, int, int, int, HWND, HMENU,
+                      HINSTANCE, LPVOID>
+      creating("CreateWindowExA");
+  ExpectFailure("Main", "missing.rc", RTX_RESOURCE_FILE,
+                "Resource file <missing.rc> should be a full path with a drive letter or just a filename");
+  ExpectTextFailure("Other DIALOG 0, 0, 9, 9\nBEGIN\nEND\n", RTX_NO_DIALOG,
+                    "Resource file does not contain a DIALOG resource named: Main");
+  ExpectTextFailure("Main DIALOG 0, 0, 9, 9\nEND\n", RTX_DIALOG_SYNTAX,
+                    "Dialog <Main>, BEGIN is expected instead of <END>");
+  ExpectTextFailure("Main DIALOG 0, 0, 9, 9\nCLASS \"x\"\nBEGIN\nEND\n", RTX_CLASS,
+                    "Class 'x' is not allowed for window: Main");
+  EXPECT_EQ(creating.calls(), 0);
+}
+
 std::string Controls(int count) {
   std::string text = "Main DIALOG 0, 0, 9, 9\nBEGIN\n";
   for (int i = 0; i < count; ++i) text += "  LTEXT \"a\", " + std::to_string(100 + i) + ", 0, 0, 9, 9\n";
@@ -194,6 +209,32 @@ TEST_F(LoadFailureTest, Is728WhenTheClassIsSomebodyElses) {
                       std::string("Could not create class ") + kDialogClass);
   }
   EXPECT_EQ(LoadDialog("Main", "").code, RTX_OK);
+}
+
+void (*spoilClass)(WNDCLASSEXA& info);
+BOOL WINAPI AnswerSpoilt(HINSTANCE instance, LPCSTR name, LPWNDCLASSEXA info) {
+  if (!GetClassInfoExA(instance, name, info)) return FALSE;
+  spoilClass(*info);
+  return TRUE;
+}
+
+TEST_F(LoadFailureTest, Is728WhenTheClassDiffersInModuleProcedureOrStyle) {
+  ASSERT_EQ(LoadDialog("Other", "").code, RTX_OK);
+  DestroyLibraryWindows();
+  Log().Clear();
+  const ReplacedImport asking("GetClassInfoExA", reinterpret_cast<void*>(&AnswerSpoilt));
+  struct Case {
+    const char* what;
+    void (*spoil)(WNDCLASSEXA& info);
+  };
+  for (const Case& c : {Case{"module", [](WNDCLASSEXA& info) { info.hInstance = Program(); }},
+                        Case{"procedure", [](WNDCLASSEXA& info) { info.lpfnWndProc = DefWindowProcA; }},
+                        Case{"style", [](WNDCLASSEXA& info) { info.style &= ~UINT{CS_GLOBALCLASS}; }}}) {
+    SCOPED_TRACE(c.what);
+    spoilClass = c.spoil;
+    ExpectTextFailure("Main DIALOG 0, 0, 9, 9\nBEGIN\nEND\n", RTX_CLASS,
+                      std::string("Could not create class ") + kDialogClass);
+  }
 }
 
 TEST_F(LoadFailureTest, StandsAheadOfTheSecondOwner) {

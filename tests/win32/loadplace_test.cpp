@@ -60,6 +60,9 @@ TEST_F(LoadPlaceTest, IsScaledByTheUnitsOfTheFont) {
       {7, 3, 99, 33, "STYLE WS_POPUP | WS_BORDER\nFONT 10, \"Courier\"\n", false},
       {10, 10, 200, 150, "STYLE WS_POPUP | WS_CAPTION\nMENU Bar\n", true},
       {-5, -7, 120, 80, "STYLE WS_POPUP | WS_CAPTION\n", false},
+      // The frame without a caption comes from the extended style alone.
+      {10, 10, 200, 150, "STYLE WS_POPUP | DS_MODALFRAME\n", false},
+      {10, 10, 200, 150, "", false},
       {3, 5, 120, 80, "STYLE WS_CAPTION | WS_SYSMENU | WS_THICKFRAME\n", false},
   };
   for (const Case& c : cases) {
@@ -216,6 +219,31 @@ class LoadFontTest : public FormTest {
 TEST_F(LoadFontTest, IsTheOneOfTheFontStatementBoldOnVersion3Alone) {
   for (const DWORD major : {2, 3, 4, 5, 6, 10}) {
     ExpectFonts({"FONT 12, \"Tahoma\"\n", major, "Tahoma", 12, major == 3 ? 700 : 400, 0});
+  }
+}
+
+std::vector<LONG> madeWeights;
+HFONT WINAPI RecordWeight(const LOGFONTA* font) {
+  madeWeights.push_back(font->lfWeight);
+  return CreateFontIndirectA(font);
+}
+
+// The bold of version 3 is for a Dialog's own FONT statement; what stands for a missing one is bold in each
+// class.
+TEST_F(LoadFontTest, OfAnEditWindowIsBoldOnVersion3WithoutAFontStatementOnly) {
+  const ReplacedImport making("CreateFontIndirectA", reinterpret_cast<void*>(&RecordWeight));
+  pretendedMajor = 3;
+  struct Case {
+    const char* statements;
+    std::vector<LONG> weights;
+  };
+  for (const Case& c : {Case{"CLASS \"Editwindow\"\nFONT 12, \"Tahoma\"\n", {400}},
+                        Case{"CLASS \"Editwindow\"\n", {700}}, Case{"FONT 12, \"Tahoma\"\n", {700, 700}}}) {
+    SCOPED_TRACE(c.statements);
+    madeWeights.clear();
+    LoadText("Main", std::string("Main DIALOG 0, 0, 9, 9\n") + c.statements + "BEGIN\nEND\n");
+    EXPECT_EQ(madeWeights, c.weights);
+    DestroyLibraryWindows();
   }
 }
 

@@ -345,11 +345,11 @@ TEST_F(CancelTest, LetsThePointerGoInTheFrame) {
 }
 
 TEST_F(CancelTest, DoesNothingOutsideTheWindow) {
-  // A child that sticks out of its window.
+  // A child that sticks out of its window, with the pointer where it would be.
   const HWND outside = class_.MakeChild(window_, 104, -30, 30);
-  RECT outer = {};
-  GetWindowRect(window_, &outer);
-  MovePointerTo({outer.right + 30, outer.top + 40});
+  RECT area = {};
+  GetWindowRect(outside, &area);
+  MovePointerTo({area.left + 2, area.top + 2});
   SetCapture(window_);
   LeftDown();
   TakeMouseMessages();
