@@ -245,6 +245,12 @@ void ControlMaker::Furnish(HWND control, const ResourceRecord& record, OwnedIcon
   }
 }
 
+BOOL CALLBACK ReleaseHandlesOf(HWND control, LPARAM) noexcept {
+  const OwnedIcon icon(static_cast<HICON>(RemovePropA(control, kIconProperty)));
+  const OwnedFont font(static_cast<HFONT>(RemovePropA(control, kFontProperty)));
+  return TRUE;
+}
+
 }  // namespace
 
 void CreateControls(const ControlSource& source, HWND window, Failure& failure) noexcept {
@@ -258,16 +264,13 @@ void CreateControls(const ControlSource& source, HWND window, Failure& failure) 
 }
 
 bool KeepForControl(HWND control, const char* property, HANDLE handle) noexcept {
-  HWND window = GetAncestor(control, GA_PARENT);
+  HWND window = GetAncestor(control, GA_ROOT);
   return SetPropA(window, kHandlesProperty, window) != FALSE && SetPropA(control, property, handle) != FALSE;
 }
 
 void ReleaseControlHandles(HWND window) noexcept {
   if (RemovePropA(window, kHandlesProperty) == nullptr) return;
-  ForEachChild(window, [](HWND child) {
-    const OwnedIcon icon(static_cast<HICON>(RemovePropA(child, kIconProperty)));
-    const OwnedFont font(static_cast<HFONT>(RemovePropA(child, kFontProperty)));
-  });
+  EnumChildWindows(window, ReleaseHandlesOf, 0);
 }
 
 }  // namespace brelt

@@ -28,8 +28,8 @@ void CreateControls(const ControlSource& source, HWND window, rc::Failure& failu
 // Marks the font that a property call has made for a control, on the control.
 inline constexpr const char* kFontProperty = "brelt.font";
 
-// Remembers under a property's name what the library has made for a control of a form. False when it can't be
-// remembered and so wouldn't be freed.
+// Remembers under a property's name what the library has made for a control of a form, or for a part of one.
+// False when it can't be remembered and so wouldn't be freed.
 bool KeepForControl(HWND control, const char* property, HANDLE handle) noexcept;
 
 // Lets go of what the library made for the controls of a window that is going and no control frees: icons and

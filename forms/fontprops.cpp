@@ -23,7 +23,9 @@ struct FontChange {
   }
 };
 
+// None of a window of another program, whose font is a number of that program.
 HFONT FontOf(HWND window) noexcept {
+  if (!IsOfThisProgram(window)) return nullptr;
   return reinterpret_cast<HFONT>(SendMessageA(window, IsDialog(window) ? XM_GETDRAWFONT : WM_GETFONT, 0, 0));
 }
 
@@ -60,16 +62,30 @@ bool HasSoundFace(HWND window) noexcept {
   return rc::IsLetter(first) || first == '_' || first == '@';
 }
 
-// The record of the form that a control is on; null for any other window.
-const WindowRow* FormOf(HWND control) noexcept { return RecordOf(GetAncestor(control, GA_PARENT)); }
+// The form around a control or a part of one; null for a window on its own.
+HWND FormAround(HWND window) noexcept {
+  HWND root = GetAncestor(window, GA_ROOT);
+  return root != window && RecordOfHandle(root) != nullptr ? root : nullptr;
+}
 
-// Hands a window its new font; the one before goes. The font that a form gave to all its controls stays: it
-// is the form's. What a control has instead goes with it.
+// Whether a window has its font from one around it: the form, which gives its font to all controls, or a
+// control that gave its own to its parts.
+bool IsFontFromAround(HWND window, HWND form, HFONT font) noexcept {
+  if (form == nullptr) return false;
+  for (HWND outer = GetAncestor(window, GA_PARENT); outer != form; outer = GetAncestor(outer, GA_PARENT)) {
+    if (outer == nullptr) return false;
+    if (GetPropA(outer, kFontProperty) == font) return true;
+  }
+  return RecordOf(form)->font == font;
+}
+
+// Hands a window its new font; the one before goes, unless it is that of a window around this one. What a
+// control has instead goes with it.
 void ReplaceFont(HWND window, OwnedFont font) noexcept {
   HFONT before = FontOf(window);
-  const WindowRow* form = FormOf(window);
+  HWND form = FormAround(window);
   const OwnedFont own(static_cast<HFONT>(RemovePropA(window, kFontProperty)));
-  const bool stays = before == own.get() || (form != nullptr && form->font == before);
+  const bool stays = before == own.get() || IsFontFromAround(window, form, before);
   const OwnedFont previous(stays ? nullptr : before);
   HFONT next = font.release();
   if (form != nullptr) KeepForControl(window, kFontProperty, next);
@@ -82,7 +98,7 @@ void ReplaceFont(HWND window, OwnedFont font) noexcept {
 
 std::int32_t ChangeFont(HWND window, const FontChange& change) noexcept {
   if (change.IsNone()) return RTX_OK;
-  if (!IsWindow(window)) return RTX_NO_WINDOW;
+  if (!IsOfThisProgram(window)) return RTX_NO_WINDOW;
   if (!IsFontHeapSound() || (IsWindowObject(window) && !HasSoundFace(window))) return RTX_BAD_FONT;
   const host::FontChoice now = DescribeFont(FontOf(window));
   OwnedFont font = MakeFont(change.face != nullptr ? change.face : now.face.c_str(),

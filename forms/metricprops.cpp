@@ -54,7 +54,7 @@ constexpr Coordinate kY = {&WindowRow::currentY, &PrinterState::currentY};
 
 std::int32_t GetCoordinate(HWND window, std::int32_t* value, const Coordinate& coordinate) noexcept {
   if (value == nullptr) return RTX_OK;
-  const WindowRow* record = RecordOf(window);
+  const WindowRow* record = RecordOfHandle(window);
   *value = window == nullptr   ? PrinterNow().*coordinate.printer
            : record != nullptr ? record->*coordinate.window
                                : 0;
@@ -66,7 +66,7 @@ std::int32_t SetCoordinate(HWND window, std::int32_t value, const Coordinate& co
     PrinterState printer = PrinterNow();
     printer.*coordinate.printer = value;
     SetPrinterPosition(printer.currentX, printer.currentY);
-  } else if (WindowRecord record = RecordOf(window); record != nullptr) {
+  } else if (WindowRecord record = RecordOfHandle(window); record != nullptr) {
     record->*coordinate.window = value;
   }
   return RTX_OK;

@@ -71,6 +71,15 @@ bool IsDialog(HWND window) noexcept { return ClassMatches(window, kDialogClass);
 bool IsEditwindow(HWND window) noexcept { return ClassMatches(window, kEditwindowClass); }
 bool IsRicheditwindow(HWND window) noexcept { return ClassMatches(window, kRicheditwindowClass); }
 
+bool IsOfThisProgram(HWND window) noexcept {
+  DWORD process = 0;
+  return GetWindowThreadProcessId(window, &process) != 0 && process == GetCurrentProcessId();
+}
+
+WindowRecord RecordOfHandle(HWND window) noexcept {
+  return IsWindowObject(window) && IsOfThisProgram(window) ? RecordOf(window) : nullptr;
+}
+
 HWND ResolveName(const char* name) noexcept {
   if (name == nullptr) return nullptr;
   NameSearch search;

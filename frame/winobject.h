@@ -136,6 +136,13 @@ bool IsRicheditwindow(HWND window) noexcept;
 inline bool IsAnyEditwindow(HWND window) noexcept { return IsEditwindow(window) || IsRicheditwindow(window); }
 inline bool IsWindowObject(HWND window) noexcept { return IsDialog(window) || IsAnyEditwindow(window); }
 
+// Whether a window, by any handle, belongs to this program. What a window of another program keeps are
+// addresses and handles of that program.
+bool IsOfThisProgram(HWND window) noexcept;
+// The record of a window that a program names by its handle; null unless it is one of the three classes and
+// of this program.
+WindowRecord RecordOfHandle(HWND window) noexcept;
+
 // The first top-level window of this thread with a name, in the platform's order; null for none.
 HWND ResolveName(const char* name) noexcept;
 

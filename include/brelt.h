@@ -283,7 +283,8 @@ MainLoop(HMODULE instance, HWND mainWindow, HWND extraWindow, EventFunction star
  *   GetArrayValue("Main", 0, "path", path, sizeof path); */
 BRELT_API(int32_t) GetArrayValue(const char* name, int32_t id, const char* key, char* text, int32_t size);
 
-/* Keeps a text under a key with the window, in place of the one there was. Window only.
+/* Keeps a text under a key with the window, in place of the one there was. Key, "=" and text are cut to 1024
+ * characters. Window only.
  * Codes: 756, 702, 703, 727, 708 without memory.
  * Example:
  *   SetArrayValue("Main", 0, "recent[1]", "C:\\notes.txt"); */
@@ -350,7 +351,8 @@ BRELT_API(int32_t) GetBorderStyle(const char* name, int32_t id, int32_t* style);
  *   GetCaption("Main", IDC_LABEL, caption, sizeof caption); */
 BRELT_API(int32_t) GetCaption(const char* name, int32_t id, char* text, int32_t size);
 
-/* Sets the text on the same objects. A menu item keeps its check mark and greying.
+/* Sets the text on the same objects. A menu item keeps its check mark and greying. That of an icon list is
+ * cut to 1024 characters and loses a tab at its very end.
  * Codes: 756, 702, 703, 727.
  * Example:
  *   SetCaption("Main", IDM_SAVE, "&Save\tCtrl+S"); */
@@ -389,7 +391,8 @@ BRELT_API(int32_t) GetCombotext(const char* name, int32_t id, char* text, int32_
  *   SetCombotext("Main", IDC_COMBO, "Lisbon"); */
 BRELT_API(int32_t) SetCombotext(const char* name, int32_t id, const char* text);
 
-/* Gets the horizontal drawing position of a window or, for a null handle, of the printer. Returns 0.
+/* Gets the horizontal drawing position of a window of this program by its handle or, for a null handle, of
+ * the printer; 0 for any other handle. Returns 0.
  * Example:
  *   int32_t x;
  *   GetCurrentX(form, &x); */
@@ -400,7 +403,7 @@ BRELT_API(int32_t) GetCurrentX(HWND window, int32_t* value);
  *   SetCurrentX(form, 100); */
 BRELT_API(int32_t) SetCurrentX(HWND window, int32_t value);
 
-/* Gets the vertical drawing position of a window or, for a null handle, of the printer. Returns 0.
+/* Gets the vertical drawing position of the same. Returns 0.
  * Example:
  *   int32_t y;
  *   GetCurrentY(form, &y); */
@@ -449,7 +452,7 @@ BRELT_API(int32_t) GetFlags(const char* name, int32_t* flags);
 BRELT_API(int32_t) SetFlags(const char* name, int32_t flags);
 
 /* Gets the face of the font of a window by its handle: of a Dialog the font that is drawn with, of any other
- * window its own; for a null handle that of the printer. Empty for no window. Returns 0.
+ * window its own; for a null handle that of the printer. Empty for no window of this program. Returns 0.
  * Example:
  *   char face[32];
  *   GetFontName(form, face, sizeof face); */
@@ -509,8 +512,8 @@ BRELT_API(int32_t)
 GetList(const char* name, int32_t id, int32_t index, char* text, int32_t size, const char* type);
 
 /* Sets in the same lists: "String" replaces the text of an item or, with the index 0x7FFFFFFF, the whole list
- * by the lines of the text. "Tbitmap" sets the picture of an icon list's item, which the caller keeps. An
- * index out of range does nothing.
+ * by the lines of the text. An item has at most 1024 characters. "Tbitmap" sets the picture of an icon list's
+ * item, which the caller keeps, or takes it away by null. An index out of range does nothing.
  * Codes: 756, 702, 703 also for another type, 727.
  * Example:
  *   SetList("Main", IDC_LIST, 0x7FFFFFFF, "red\ngreen\nblue\n", "String"); */
@@ -638,7 +641,8 @@ BRELT_API(int32_t) GetPageHeight(const char* name, int32_t* value);
  *   GetPageWidth("Screen", &width); */
 BRELT_API(int32_t) GetPageWidth(const char* name, int32_t* value);
 
-/* Gets the character that an edit field shows in place of what is typed, 0 for none.
+/* Gets the character that an edit field shows in place of what is typed, 0 for none, 9679 for the
+ * black circle.
  * Codes: 756, 753, 702, 703, 727.
  * Example:
  *   int32_t character;
@@ -685,16 +689,16 @@ BRELT_API(int32_t) GetPhysicalOffsetY(const char* name, int32_t* value);
  *   GetPicture("Main", IDC_IMAGE, picture, sizeof picture); */
 BRELT_API(int32_t) GetPicture(const char* name, int32_t id, void* buffer, int32_t size);
 
-/* Shows a packed bitmap on the same objects.
- * Codes: 756, 702, 703, 727.
+/* Shows a packed bitmap on the same objects, which copy it.
+ * Codes: 756, 702, 703, 727, 709 if the window can't have a canvas.
  * Example:
  *   SetPicture("Main", IDC_IMAGE, picture); */
 BRELT_API(int32_t) SetPicture(const char* name, int32_t id, const void* picture);
 
 /* Gets the place and size of a window or control in pixels. Of a control they are in its parent's client
  * coordinates. Of a window, mode 0 gives its place on the screen with its client size, mode 1 with its outer
- * size; another mode nothing. The name may be a window's handle as a hexadecimal text such as "0x1F02";
- * "Screen" gives the work area.
+ * size; another mode nothing. The name may be the handle of any window as a hexadecimal text such as
+ * "0x1F02"; "Screen" gives the work area, "Printer" zeros.
  * Codes: 756, 753, 702, 703, 727.
  * Example:
  *   int32_t x, y, width, height;
@@ -703,7 +707,7 @@ BRELT_API(int32_t)
 GetPosition(const char* name, int32_t id, int32_t mode, int32_t* x, int32_t* y, int32_t* width,
             int32_t* height);
 
-/* Moves and sizes the same objects, in the same terms.
+/* Moves and sizes the same objects, in the same terms. "Screen" and "Printer" stay as they are.
  * Codes: 756, 702, 703, 727.
  * Example:
  *   SetPosition("Main", 0, 0, 100, 80, 320, 200); */
@@ -786,8 +790,8 @@ BRELT_API(int32_t) SetTokens(const char* name, int32_t id, const char* text);
  *   GetValue("Main", IDC_CHECK, &value); */
 BRELT_API(int32_t) GetValue(const char* name, int32_t id, int32_t* value);
 
-/* Sets the value of the same controls, held within the range. Turning a radio button on turns the others of
- * its group off.
+/* Sets the value of the same controls, held within the range. Turning a radio button on by 1 turns the others
+ * of its group off; any other value turns it off alone.
  * Codes: 756, 702, 703, 727.
  * Example:
  *   SetValue("Main", IDC_CHECK, 1); */
@@ -814,7 +818,7 @@ BRELT_API(int32_t) SetVisible(const char* name, int32_t id, uint8_t isVisible);
  *   GetWindowState("Main", 0, &state); */
 BRELT_API(int32_t) GetWindowState(const char* name, int32_t id, int32_t* state);
 
-/* Sets the state of a window, as far as it has the box for it.
+/* Sets the state of a window, as far as it has the box for it. Another value does nothing.
  * Codes: 756, 702, 703, 727.
  * Example:
  *   SetWindowState("Main", 0, 2); */

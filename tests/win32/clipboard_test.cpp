@@ -109,17 +109,20 @@ TEST_F(ClipboardTest, WithoutATextIsEmpty) {
   EXPECT_EQ(Length(), 0);
 }
 
-// Another program may have put a block there that nothing ends.
+// Another program may have put a block there that nothing ends. What follows such a block is told from it by
+// its size alone.
 TEST_F(ClipboardTest, ATextEndsWithItsBlock) {
   static HANDLE block;
   struct Replacement {
     static HANDLE WINAPI Data(UINT) { return block; }
+    static SIZE_T WINAPI Size(HGLOBAL) { return 3; }
   };
-  block = GlobalAlloc(GMEM_FIXED, 3);
-  std::memcpy(block, "abc", 3);
+  block = GlobalAlloc(GMEM_FIXED, 8);
+  std::memcpy(block, "abcmore", 8);
   PutOnClipboard(CF_TEXT, std::string("abc\0", 4));
   {
     const ReplacedImport data("GetClipboardData", reinterpret_cast<void*>(&Replacement::Data));
+    const ReplacedImport size("GlobalSize", reinterpret_cast<void*>(&Replacement::Size));
     EXPECT_EQ(Text(), "abc");
     EXPECT_EQ(Length(), 3);
   }

@@ -196,6 +196,31 @@ TEST_F(FontTest, OfTheFormStaysWhenAControlGetsItsOwn) {
   EXPECT_EQ(GetObjectType(shared), static_cast<DWORD>(OBJ_FONT));
 }
 
+// So has what lies within a control, such as the field of a combo box.
+TEST_F(FontTest, OfTheFormStaysWhenAPartOfAControlGetsItsOwn) {
+  HFONT shared = OwnFont(form());
+  HWND part = GetWindow(Control(kDropDown), GW_CHILD);
+  ASSERT_EQ(OwnFont(part), shared);
+  for (const int32_t size : {20, 30}) {
+    EXPECT_EQ(SetFontSize(part, size), RTX_OK);
+    EXPECT_EQ(Read(part).size, size);
+    EXPECT_EQ(GetObjectType(shared), static_cast<DWORD>(OBJ_FONT));
+  }
+  EXPECT_EQ(OwnFont(Control(kDropDown)), shared);
+}
+
+// A combo box hands the font that it gets on to its field.
+TEST_F(FontTest, OfAControlStaysWhenAPartOfItGetsItsOwn) {
+  HWND part = GetWindow(Control(kDropDown), GW_CHILD);
+  EXPECT_EQ(SetFontSize(Control(kDropDown), 20), RTX_OK);
+  HFONT given = OwnFont(Control(kDropDown));
+  ASSERT_EQ(OwnFont(part), given);
+  EXPECT_EQ(SetFontSize(part, 30), RTX_OK);
+  EXPECT_EQ(Read(part).size, 30);
+  EXPECT_EQ(GetObjectType(given), static_cast<DWORD>(OBJ_FONT));
+  EXPECT_EQ(Read(Control(kDropDown)).size, 20);
+}
+
 TEST_F(FontTest, ThatAProgramGaveAControlIsDeletedLikeAnyOther) {
   EXPECT_EQ(SetFontSize(Control(kField), 20), RTX_OK);
   HFONT own = OwnFont(Control(kField));
@@ -224,12 +249,15 @@ TEST_F(FontTest, ChangesLeaveNoFontBehind) {
 
 TEST_F(FontTest, OfControlsGoWithTheirForm) {
   const auto loadChangeAndClose = [] {
-    const LoadResult other =
-        LoadDialog("Other", "  EDITTEXT 100, 0, 0, 9, 9\n  LTEXT \"a\", 101, 0, 0, 9, 9");
+    const LoadResult other = LoadDialog("Other",
+                                        "  EDITTEXT 100, 0, 0, 9, 9\n  LTEXT \"a\", 101, 0, 0, 9, 9\n"
+                                        "  COMBOBOX 102, 0, 0, 9, 9, CBS_DROPDOWN");
     ASSERT_EQ(other.code, RTX_OK);
-    for (const int id : {100, 101}) {
-      EXPECT_EQ(SetFontSize(GetDlgItem(other.window, id), 20), RTX_OK);
-      EXPECT_EQ(SetFontBold(GetDlgItem(other.window, id), 1), RTX_OK);
+    HWND combo = GetDlgItem(other.window, 102);
+    for (HWND control :
+         {GetDlgItem(other.window, 100), GetDlgItem(other.window, 101), GetWindow(combo, GW_CHILD), combo}) {
+      EXPECT_EQ(SetFontSize(control, 20), RTX_OK);
+      EXPECT_EQ(SetFontBold(control, 1), RTX_OK);
     }
     EXPECT_EQ(SetFontSize(other.window, 20), RTX_OK);
     DestroyWindow(other.window);

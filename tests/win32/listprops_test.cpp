@@ -183,9 +183,9 @@ TEST_F(ListPropsTest, AWholeListThatDoesntFitGivesTheMarkOfItsKindCutToTheBuffer
       EXPECT_EQ(Read(kind.id, kWhole, size), mark.substr(0, static_cast<std::size_t>(size) - 1));
     }
     for (const int32_t size : {0, -1, INT_MIN}) EXPECT_EQ(Read(kind.id, kWhole, size), "");
-    // A longer list shows the whole mark.
-    const std::string longer(60, 'x');
-    SetList(kFormName, kind.id, kWhole, ("a\n" + longer).c_str(), "String");
+    // A longer list shows the whole mark, and nothing of the items that fitted.
+    const std::string longer = std::string(30, 'x') + "\n" + std::string(60, 'x');
+    SetList(kFormName, kind.id, kWhole, longer.c_str(), "String");
     EXPECT_EQ(Read(kind.id, kWhole, 50), mark);
   });
 }

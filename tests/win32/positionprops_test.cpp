@@ -284,6 +284,19 @@ TEST_F(PositionTest, OfScreenAndPrinterCantBeSet) {
   EXPECT_EQ(x, 0);
 }
 
+TEST_F(PositionTest, OfScreenAndPrinterIsMeantAlsoWhereAWindowHasItsName) {
+  RECT area = {};
+  SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
+  for (const char* name : {"Screen", "Printer"}) {
+    SCOPED_TRACE(name);
+    const EditFrame frame(kPlainFrameClass, name);
+    const Place before = OuterPlace(frame.get());
+    EXPECT_EQ(Position(name, 0, 1), *name == 'S' ? ToPlace(area) : kNowhere);
+    EXPECT_EQ(SetTo(name, 0, 1, {60, 70, 180, 190}), RTX_OK);
+    EXPECT_EQ(OuterPlace(frame.get()), before);
+  }
+}
+
 // ---- Limits ----
 
 using GetLimit = int32_t(__stdcall*)(const char*, int32_t, int32_t, int32_t*, int32_t*, int32_t*, int32_t*);
@@ -368,6 +381,29 @@ TEST_F(PositionTest, LimitsOfWidthAndHeightZeroBringThePlatformsBack) {
     EXPECT_EQ(info.ptMaxSize.x, most.width);
     EXPECT_EQ(info.ptMaxPosition.x, most.x);
     EXPECT_EQ(info.ptMinTrackSize.x, 3);
+  }
+}
+
+// One of the two alone is a size like any other.
+TEST_F(PositionTest, LimitsOfWidthOrHeightZeroAreWidenedByTheFrame) {
+  struct Case {
+    GetLimit get;
+    SetLimit set;
+    Placement WindowRow::*field;
+  };
+  for (const Case& c : {Case{GetMaxPosition, SetMaxPosition, &WindowRow::maxPosition},
+                        Case{GetMinPosition, SetMinPosition, &WindowRow::minPosition}}) {
+    for (const Place& place : {Place{0, 0, 0, 300}, Place{0, 0, 400, 0}}) {
+      SCOPED_TRACE(place);
+      RECT outer = {0, 0, place.width, place.height};
+      AdjustWindowRectEx(&outer, static_cast<DWORD>(GetWindowLongA(form(), GWL_STYLE)), TRUE,
+                         static_cast<DWORD>(GetWindowLongA(form(), GWL_EXSTYLE)));
+      SetLimitTo(c.set, 0, place);
+      const Placement& stored = record()->*c.field;
+      EXPECT_EQ(stored.width, outer.right - outer.left);
+      EXPECT_EQ(stored.height, outer.bottom - outer.top);
+      EXPECT_EQ(Limit(c.get, 1), (Place{0, 0, outer.right - outer.left, outer.bottom - outer.top}));
+    }
   }
 }
 

@@ -66,6 +66,7 @@ TEST_F(RangeTest, OutsideSixteenBitsIsRefusedInSilence) {
       {SetMax, 32767, {0, 100}, {0, 32767}},
       {SetMax, 32768, {0, 100}, {0, 100}},
       {SetMax, 40000, {0, 100}, {0, 100}},
+      {SetMax, 32768, {1, 100}, {1, 100}},
       {SetMax, INT_MAX, {0, 100}, {0, 100}},
       {SetMax, 32766, {-1, 100}, {-1, 32766}},
       {SetMax, 32767, {-1, 100}, {-1, 100}},
@@ -158,6 +159,19 @@ TEST_F(RangeTest, ValueOfABitmapButtonIsItsCheck) {
   EXPECT_EQ(SetValue("Other", 100, 1), RTX_OK);
   EXPECT_EQ(GetValue("Other", 100, &value), RTX_OK);
   EXPECT_EQ(value, 1);
+}
+
+// Of bitmap buttons only the type 4 is a radio button, of buttons the type 9 as well.
+TEST_F(RangeTest, ABitmapButtonOfAnyOtherTypeIsSetAlone) {
+  const LoadResult other = LoadDialog("Other",
+                                      "  CONTROL \"\", 100, \"BITMAPBUTTON\", 0x9, 0, 0, 9, 9\n"
+                                      "  CONTROL \"\", 101, \"BITMAPBUTTON\", 0x9, 0, 0, 9, 9");
+  ASSERT_EQ(other.code, RTX_OK);
+  ASSERT_EQ(GetWindowLongA(GetDlgItem(other.window, 101), GWL_STYLE) & 0xF, 9);
+  const MessageSpy spy;
+  EXPECT_EQ(SetValue("Other", 101, 1), RTX_OK);
+  EXPECT_TRUE(spy.To(GetDlgItem(other.window, 100), BM_SETCHECK).empty());
+  EXPECT_EQ(spy.To(GetDlgItem(other.window, 101), BM_SETCHECK).size(), 1u);
 }
 
 // ---- Radio groups ----

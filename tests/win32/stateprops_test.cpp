@@ -150,6 +150,18 @@ TEST_F(StateTest, DisablingTheControlWithTheFocusMovesTheFocusOn) {
   }
 }
 
+TEST_F(StateTest, DisablingTheControlWithTheFocusMovesNoFocusWhereNothingCanTakeIt) {
+  ShowForm();
+  SetFocus(Control(kField));
+  const CountedImport<struct TabItemTag, HWND, HWND, HWND, BOOL> next(
+      "GetNextDlgTabItem", CountedImport<struct TabItemTag, HWND, HWND, HWND, BOOL>::kAlways);
+  const MessageSpy spy;
+  EXPECT_EQ(SetEnabled(kFormName, kField, 0), RTX_OK);
+  EXPECT_TRUE(next.HasFailed());
+  EXPECT_TRUE(spy.To(form(), WM_NEXTDLGCTL).empty());
+  EXPECT_FALSE(IsWindowEnabled(Control(kField)));
+}
+
 // ---- Visible ----
 
 TEST_F(StateTest, VisibleOfAControlIsItsOwnStyleWhetherItsWindowShowsOrNot) {
@@ -203,6 +215,14 @@ TEST_F(StateTest, StateIsNormalMinimisedOrMaximised) {
     EXPECT_EQ(IsZoomed(form()) != FALSE, state == 2);
     EXPECT_EQ(WindowState(), state);
   }
+}
+
+// The platform minimises a maximised window without the mark of its size. One that has both is maximised.
+TEST_F(StateTest, StateOfAWindowWithBothMarksIsMaximised) {
+  const LONG style = GetWindowLongA(form(), GWL_STYLE);
+  SetWindowLongA(form(), GWL_STYLE, style | WS_MINIMIZE | WS_MAXIMIZE);
+  EXPECT_EQ(WindowState(), 2);
+  SetWindowLongA(form(), GWL_STYLE, style);
 }
 
 TEST_F(StateTest, StateIsShownByThePlatformsCommandForIt) {

@@ -114,6 +114,10 @@ TEST_F(TextTest, ThatIsSetIsntModifiedAndIsPaintedWithoutErasing) {
       Set(id, "new");
     }
     EXPECT_EQ(erasures, std::vector<BOOL>{FALSE});
+    // Not every control clears the mark by itself.
+    const auto marks = spy.To(Field(id), EM_SETMODIFY);
+    ASSERT_EQ(marks.size(), 1u);
+    EXPECT_EQ(marks[0].wParam, 0u);
     EXPECT_GE(PaintingOf(spy, Field(id)).paints, 1);
     uint8_t modified = 77;
     EXPECT_EQ(GetModify("Fields", id, &modified), RTX_OK);
