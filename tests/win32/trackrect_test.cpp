@@ -304,25 +304,38 @@ TEST_F(TrackRectTest, AWindowThatGoesLeavesTheCallersRectangle) {
   EXPECT_EQ(Track(kFrame, {179, 109}), kFrame);
 }
 
-// ---- Input that comes in bursts, from another thread ----
+// ---- What comes from another thread ----
 
-struct Watchdog {
-  DWORD thread;
-  HANDLE done;
-  bool barked;
+// Ends a tracking that would go on for ever, and fails the test.
+class Watchdog {
+ public:
+  Watchdog() : thread_(CreateThread(nullptr, 0, Run, this, 0, nullptr)) {}
+  Watchdog(const Watchdog&) = delete;
+  Watchdog& operator=(const Watchdog&) = delete;
+  ~Watchdog() {
+    SetEvent(done_);
+    WaitForSingleObject(thread_, INFINITE);
+    CloseHandle(thread_);
+    CloseHandle(done_);
+    EXPECT_FALSE(barked_);
+  }
 
+ private:
   static DWORD WINAPI Run(LPVOID data) {
     auto* dog = static_cast<Watchdog*>(data);
-    if (WaitForSingleObject(dog->done, 10000) == WAIT_OBJECT_0) return 0;
-    dog->barked = true;
-    PostThreadMessageA(dog->thread, WM_NULL, 0, 0);
+    if (WaitForSingleObject(dog->done_, 10000) == WAIT_OBJECT_0) return 0;
+    dog->barked_ = true;
+    PostThreadMessageA(dog->guarded_, WM_NULL, 0, 0);
     return 0;
   }
+
+  const DWORD guarded_ = GetCurrentThreadId();
+  const HANDLE done_ = CreateEventA(nullptr, TRUE, FALSE, nullptr);
+  bool barked_ = false;
+  const HANDLE thread_;
 };
 
 TEST_F(TrackRectTest, InputThatIsThereAlreadyIsHandledWithoutMore) {
-  Watchdog dog = {GetCurrentThreadId(), CreateEventA(nullptr, TRUE, FALSE, nullptr), false};
-  HANDLE thread = nullptr;
   bool tracked = false;
   frame_ = kFrame;
   Log().onEvent = [&](HWND, const Event& event) {
@@ -332,19 +345,14 @@ TEST_F(TrackRectTest, InputThatIsThereAlreadyIsHandledWithoutMore) {
     LeftUp();
     // The queue has been asked since: what is in it is no longer news.
     GetQueueStatus(QS_ALLINPUT);
-    thread = CreateThread(nullptr, 0, Watchdog::Run, &dog, 0, nullptr);
+    const Watchdog dog;
     EXPECT_EQ(Call(), RTX_OK);
-    SetEvent(dog.done);
     return 0;
   };
   MovePointer(window_, 130, 80);
   Pump();
   LeftDown();
   ASSERT_TRUE(PumpUntil([&] { return tracked; }));
-  WaitForSingleObject(thread, INFINITE);
-  CloseHandle(thread);
-  CloseHandle(dog.done);
-  EXPECT_FALSE(dog.barked);
   EXPECT_EQ(frame_, (Frame{170, 130, 80, 50}));
 }
 
@@ -352,16 +360,26 @@ struct Hand {
   DWORD thread;
   HWND window;
 
-  // Drags as soon as the tracking has the mouse, and lets go.
-  static DWORD WINAPI Run(LPVOID data) {
-    const auto* hand = static_cast<const Hand*>(data);
+  void WaitForTracking() const {
     GUITHREADINFO info = {};
     info.cbSize = sizeof info;
     const DWORD start = GetTickCount();
     while (GetTickCount() - start < 10000) {
-      if (GetGUIThreadInfo(hand->thread, &info) && info.hwndCapture == hand->window) break;
+      if (GetGUIThreadInfo(thread, &info) && info.hwndCapture == window) break;
       Sleep(1);
     }
+  }
+  // Sends the window a message as soon as the tracking has the mouse.
+  static DWORD WINAPI Send(LPVOID data) {
+    const auto* hand = static_cast<const Hand*>(data);
+    hand->WaitForTracking();
+    SendMessageA(hand->window, EV_CUSTOM, 0, 0);
+    return 0;
+  }
+  // Drags as soon as the tracking has the mouse, and lets go.
+  static DWORD WINAPI Run(LPVOID data) {
+    const auto* hand = static_cast<const Hand*>(data);
+    hand->WaitForTracking();
     for (int i = 0; i < 40; ++i) MovePointer(hand->window, 180 + i, 110 + i);
     LeftUp();
     return 0;
@@ -386,6 +404,30 @@ TEST_F(TrackRectTest, AHandOutsideDragsIt) {
   WaitForSingleObject(thread, INFINITE);
   CloseHandle(thread);
   EXPECT_EQ(frame_, (Frame{100, 60, 119, 89}));
+}
+
+// A message that is sent goes past the queue, so that there need be none after it.
+TEST_F(TrackRectTest, AWindowThatGoesByASentMessageEndsIt) {
+  Hand hand = {GetCurrentThreadId(), window_};
+  bool tracked = false;
+  frame_ = kFrame;
+  Log().onEvent = [&](HWND window, const Event& event) {
+    if (event.event == EV_CUSTOM) DestroyWindow(window);
+    if (event.event != EV_MOUSEDOWN || tracked) return 0;
+    tracked = true;
+    const Watchdog dog;
+    EXPECT_EQ(Call(), RTX_OK);
+    return 0;
+  };
+  HANDLE thread = CreateThread(nullptr, 0, Hand::Send, &hand, 0, nullptr);
+  MovePointer(window_, 179, 109);
+  Pump();
+  LeftDown();
+  ASSERT_TRUE(PumpUntil([&] { return tracked; }, 20000));
+  WaitForSingleObject(thread, INFINITE);
+  CloseHandle(thread);
+  EXPECT_FALSE(IsWindow(window_));
+  EXPECT_EQ(frame_, kFrame);
 }
 
 // Moves the pointer on between the look at a move and its removal, as a quick hand does.
