@@ -1,5 +1,6 @@
 // Control arrays and selection groups. Neither is kept anywhere: each call works it out from the order of the
 // sibling windows, or for menu items from the menu.
+#include "forms/lists.h"
 #include "forms/menuitems.h"
 #include "forms/property.h"
 #include "frame/library.h"
@@ -31,7 +32,7 @@ HWND FirstOfArray(HWND control) noexcept {
   return control;
 }
 
-// The array of a control: a run of siblings of one kind.
+// The array of a control: a run of siblings of one kind. A control without a kind is alone in its array.
 class ControlRun {
  public:
   explicit ControlRun(HWND member) noexcept : kind_(KindOf(member)), first_(FirstOfArray(member)) {}
@@ -39,10 +40,13 @@ class ControlRun {
   // Goes through the members from the first until visit(member, index) is true; gives that one, or null.
   template <typename Visit>
   HWND Find(Visit visit) const noexcept {
+    HWND member = first_;
     std::int32_t index = Library.OptionBase;
-    for (HWND member = first_; IsOfKind(member, kind_); member = Next(member), ++index) {
+    do {
       if (visit(member, index)) return member;
-    }
+      member = Next(member);
+      ++index;
+    } while (IsOfKind(member, kind_));
     return nullptr;
   }
 
@@ -68,7 +72,9 @@ std::int32_t MemberAt(const ControlRun& run, std::int32_t wanted) noexcept {
   return member != nullptr ? GetDlgCtrlID(member) : kNone;
 }
 
+// Id 0 is no control's, also if a child that the program made itself has it.
 std::int32_t PositionOf(const ControlRun& run, std::int32_t memberId) noexcept {
+  if (memberId == 0) return kNone;
   std::int32_t found = kNone;
   run.Find([&](HWND member, std::int32_t index) {
     if (GetDlgCtrlID(member) != memberId) return false;
@@ -89,9 +95,7 @@ std::int32_t LastIndex(const ControlRun& run) noexcept {
 
 // A separator gives 0 and a popup -1, as the platform answers.
 std::int32_t ItemAt(HMENU items, std::int32_t index) noexcept {
-  return static_cast<std::int32_t>(GetMenuItemID(
-      items,
-      static_cast<int>(static_cast<std::uint32_t>(index) - static_cast<std::uint32_t>(Library.OptionBase))));
+  return static_cast<std::int32_t>(GetMenuItemID(items, ToPlace(index)));
 }
 
 // The checks of the array calls that come behind those of all calls: id 0 has a code of its own.

@@ -1,7 +1,6 @@
 // AddItem, RemoveItem and Clear.
 #include "forms/lists.h"
 #include "forms/property.h"
-#include "frame/library.h"
 #include "include/brelt.h"
 
 namespace brelt {
@@ -16,16 +15,10 @@ std::int32_t CheckList(const ObjectCall& call) noexcept {
   return List(call.control()) ? std::int32_t{RTX_OK} : std::int32_t{RTX_WRONG_KIND};
 }
 
-// A caller's index as a place from 0; wild ones wrap to places that no list has.
-std::int32_t PlaceOf(std::int32_t index) noexcept {
-  return static_cast<std::int32_t>(static_cast<std::uint32_t>(index) -
-                                   static_cast<std::uint32_t>(Library.OptionBase));
-}
-
 // The selection keeps its number, also when the item that had it moves: programs set it themselves if they
 // mind. Where nothing was selected nothing is selected anew: a combo box would empty its field.
 void Add(const List& list, std::int32_t index, const char* text, const void* picture) noexcept {
-  const std::int32_t place = PlaceOf(index);
+  const std::int32_t place = ToPlace(index);
   if (index != kAppend && (place < 0 || place > list.Count())) return;
   const ItemText item = ToItemText(text);
   const std::int32_t selection = list.Selection();
@@ -58,7 +51,7 @@ int32_t __stdcall AddItem(const char* name, int32_t id, int32_t index, const cha
 int32_t __stdcall RemoveItem(const char* name, int32_t id, int32_t index) {
   const ObjectCall call(__func__, name, id);
   const int32_t code = CheckList(call);
-  if (code == RTX_OK) Remove(List(call.control()), PlaceOf(index));
+  if (code == RTX_OK) Remove(List(call.control()), ToPlace(index));
   return code;
 }
 

@@ -13,12 +13,6 @@ constexpr std::int32_t kNoIndex = -1;
 
 std::int32_t ListCount(const ObjectCall& call) noexcept { return List(call.control()).Count(); }
 
-// An item's place from 0. Wild indexes wrap to a place that no list has.
-std::int32_t ToPlace(std::int32_t index) noexcept {
-  return static_cast<std::int32_t>(static_cast<std::uint32_t>(index) -
-                                   static_cast<std::uint32_t>(Library.OptionBase));
-}
-
 // No selection is -1 with either base.
 std::int32_t ListIndex(const ObjectCall& call) noexcept {
   const std::int32_t index = List(call.control()).Selection();

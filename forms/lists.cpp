@@ -1,5 +1,6 @@
 #include "forms/lists.h"
 
+#include "frame/library.h"
 #include "frame/winobject.h"
 
 namespace brelt {
@@ -24,6 +25,11 @@ constexpr List::Messages List::kListMessages = {
 constexpr List::Messages List::kComboMessages = {
     CB_GETCOUNT,     CB_GETCURSEL,    CB_SETCURSEL, CB_ADDSTRING,   CB_INSERTSTRING, CB_DELETESTRING,
     CB_RESETCONTENT, CB_GETLBTEXTLEN, CB_GETLBTEXT, CB_GETITEMDATA, CB_SETITEMDATA};
+
+std::int32_t ToPlace(std::int32_t index) noexcept {
+  return static_cast<std::int32_t>(static_cast<std::uint32_t>(index) -
+                                   static_cast<std::uint32_t>(Library.OptionBase));
+}
 
 ItemText ToItemText(const char* text) noexcept {
   ItemText item(rc::View(text));

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 
+#include "forms/listitems.h"
 #include "rc/text.h"
 
 namespace brelt {
@@ -12,7 +13,11 @@ namespace brelt {
 // The index that stands for the whole list.
 inline constexpr std::int32_t kWholeList = 0x7FFFFFFF;
 
-using ItemText = rc::FixedText<1024>;
+using ItemText = rc::FixedText<kListItemLength>;
+
+// A program's index, which counts from the option base, as a place from 0. Wild indexes wrap to places that
+// no list has.
+std::int32_t ToPlace(std::int32_t index) noexcept;
 
 // A program's text as the text of one item: cut to 1024 characters, then without one line feed and then
 // without one carriage return at its end.

@@ -230,10 +230,13 @@ Box Tracker::Run() noexcept {
   ShowCursorAt(start);
   SetCapture(window_);
   if (const int handle = Hit(start); handle != graphics::kNoHandle) StartDrag(handle, start);
-  // Waiting is for messages that come, so what is there is looked at first.
+  // Waiting is for messages that come, so what is there is looked at first. The look lets in what other
+  // threads have sent, too, by which the window may go; nothing need come after that.
   for (bool going = true; going;) {
     MSG message;
-    if (PeekMessageA(&message, nullptr, 0, WM_USER, PM_NOREMOVE)) {
+    const bool found = PeekMessageA(&message, nullptr, 0, WM_USER, PM_NOREMOVE) != FALSE;
+    if (!IsWindow(window_)) break;
+    if (found) {
       going = OnMessage(message);
     } else {
       WaitMessage();

@@ -207,6 +207,18 @@ TEST_F(AlignItemsTest, TakesTheDataOfAListWithoutTextsForTextsOfThatSize) {
   EXPECT_EQ(told.stops, StopsFor({"AA", "A"}));
 }
 
+TEST_F(AlignItemsTest, GivesContextAndFontBack) {
+  Make(kListBox);
+  Add("a\tb");
+  const CountedImport<struct GetDcTag, HDC, HWND> taken("GetDC");
+  const CountedImport<struct ReleaseDcTag, int, HWND, HDC> given("ReleaseDC");
+  const CountedImport<struct SelectTag, HGDIOBJ, HDC, HGDIOBJ> selected("SelectObject");
+  EXPECT_EQ(AlignItems("Form", kId), RTX_OK);
+  EXPECT_EQ(taken.calls(), 1);
+  EXPECT_EQ(given.calls(), 1);
+  EXPECT_EQ(selected.calls(), 2);
+}
+
 TEST_F(AlignItemsTest, DoesNothingWithoutADeviceContext) {
   Make(kListBox);
   Add("a\tb");

@@ -10,6 +10,7 @@
 #include "tests/win32/support/forms.h"
 #include "tests/win32/support/handles.h"
 #include "tests/win32/support/imports.h"
+#include "tests/win32/support/redraws.h"
 
 namespace brelt::test {
 namespace {
@@ -120,20 +121,6 @@ void ExpectIconsOfFile(HWND window, const ClassIcons& before, const std::string&
 
 int32_t SetIcon(const std::string& file) { return AppIcon(GetModuleHandleA(nullptr), file.c_str()); }
 
-struct Redraw {
-  HWND window;
-  const RECT* area;
-  HRGN region;
-  UINT flags;
-
-  bool operator==(const Redraw&) const = default;
-};
-std::vector<Redraw> redraws;
-BOOL WINAPI CollectRedraw(HWND window, const RECT* area, HRGN region, UINT flags) {
-  redraws.push_back({window, area, region, flags});
-  return TRUE;
-}
-
 class AppIconTest : public FormTest {
  protected:
   void SetUp() override {
@@ -141,7 +128,6 @@ class AppIconTest : public FormTest {
     const LoadResult form = LoadDialog("Form", "");
     ASSERT_EQ(form.code, RTX_OK);
     window_ = form.window;
-    redraws.clear();
   }
   // A file of its own, so that no test finds that of another.
   static std::string Write(const std::vector<Image>& images) {
@@ -152,14 +138,14 @@ class AppIconTest : public FormTest {
 };
 
 TEST_F(AppIconTest, SetsTheLargeAndTheSmallIconOfTheClass) {
-  const ReplacedImport redraw("RedrawWindow", reinterpret_cast<void*>(&CollectRedraw));
+  const RedrawSpy redraws;
   const std::string file = Write({{32, kRed}, {16, kBlue}});
   const ClassIcons before = IconsOf(window_);
   EXPECT_EQ(SetIcon(file), RTX_OK);
   ExpectIconsOfFile(window_, before, file);
   const ClassIcons after = IconsOf(window_);
   ExpectImage(after.large, {32, kRed});
-  EXPECT_EQ(redraws, (std::vector<Redraw>{{nullptr, nullptr, nullptr, 1281}}));
+  EXPECT_EQ(redraws.lines(), RedrawLine(nullptr, nullptr, 1281));
   // It stays with the class when the file and the windows are gone.
   std::remove(file.c_str());
   DestroyLibraryWindows();
@@ -204,7 +190,7 @@ TEST_F(AppIconTest, NeedsAnInstanceAndAFileName) {
 }
 
 TEST_F(AppIconTest, DoesNothingWithoutTheFileOrAWindowOfTheThread) {
-  const ReplacedImport redraw("RedrawWindow", reinterpret_cast<void*>(&CollectRedraw));
+  const RedrawSpy redraws;
   const ClassIcons before = IconsOf(window_);
   EXPECT_EQ(SetIcon("no such file.ico"), RTX_OK);
   EXPECT_EQ(SetIcon("C:\\no such folder\\app.ico"), RTX_OK);
@@ -226,7 +212,7 @@ TEST_F(AppIconTest, DoesNothingWithoutTheFileOrAWindowOfTheThread) {
   DestroyLibraryWindows();
   EXPECT_EQ(SetIcon(file), RTX_OK);
   EXPECT_EQ(IconsOf(LoadDialog("Later", "").window), before);
-  EXPECT_TRUE(redraws.empty());
+  EXPECT_EQ(redraws.lines(), "");
 }
 
 TEST_F(AppIconTest, FindsABareFileNameInTheCurrentFolder) {

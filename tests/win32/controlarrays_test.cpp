@@ -3,6 +3,7 @@
 #include <random>
 #include <vector>
 
+#include "tests/win32/support/classes.h"
 #include "tests/win32/support/forms.h"
 
 namespace brelt::test {
@@ -144,6 +145,28 @@ TEST_F(ControlArrayTest, GivesMinus1ForWhatIsNotInIt) {
     EXPECT_EQ(ArrayPosition(101, memberId), -1) << memberId;
   }
   for (const int32_t memberId : {101, 102, 999, 0, -1}) EXPECT_EQ(ArrayPosition(201, memberId), -1);
+}
+
+TEST_F(ControlArrayTest, HasAProgramsOwnChildrenButNoneByTheIdZero) {
+  const LoadResult form = LoadDialog("Form", "  LTEXT \"a\", 101, 0, 0, 50, 10\n");
+  ASSERT_EQ(form.code, RTX_OK);
+  const TestWindow own("STATIC", "own", WS_CHILD, form.window);
+  ASSERT_EQ(GetDlgCtrlID(own.get()), 0);
+  EXPECT_EQ(UpperBound(101), 2);
+  EXPECT_EQ(ArrayMember(101, 2), 0);
+  EXPECT_EQ(ArrayPosition(101, 0), -1);
+}
+
+// The kind of a class whose name begins with a point is empty, and makes no neighbours.
+TEST_F(ControlArrayTest, OfAControlWithoutAKindIsThatControlAlone) {
+  const LoadResult form = LoadDialog("Form", "");
+  ASSERT_EQ(form.code, RTX_OK);
+  const TestClass nameless(".NAMELESS");
+  nameless.MakeChild(form.window, 101);
+  nameless.MakeChild(form.window, 102);
+  ExpectArray({101});
+  ExpectArray({102});
+  DestroyLibraryWindows();
 }
 
 // Forms of random kinds against a plain list of them.

@@ -1,7 +1,7 @@
 // Show, Hide, Unload, IsModal and DoEvents: their codes and what they leave alone.
 #include "tests/win32/support/forms.h"
-#include "tests/win32/support/imports.h"
 #include "tests/win32/support/input.h"
+#include "tests/win32/support/redraws.h"
 #include "tests/win32/support/script.h"
 #include "tests/win32/support/slots.h"
 #include "tests/win32/support/trace.h"
@@ -245,47 +245,28 @@ TEST_F(ShowTest, BringsAVisibleWindowToTheTopAndMakesItActive) {
 
 // ---- Hide ----
 
-struct Redraw {
-  HWND window;
-  RECT area;
-  HRGN region;
-  UINT flags;
-};
-std::vector<Redraw> redraws;
-
-BOOL WINAPI RecordRedraw(HWND window, const RECT* area, HRGN region, UINT flags) {
-  redraws.push_back({window, area != nullptr ? *area : RECT{}, region, flags});
-  return TRUE;
-}
-
 TEST_F(ShowTest, HideRepaintsWhatLayBelowAtOnce) {
   const HWND main = LoadShown("Main", kOneButton);
   RECT place = {};
   GetWindowRect(main, &place);
-  const ReplacedImport import("RedrawWindow", reinterpret_cast<void*>(RecordRedraw));
-  redraws.clear();
+  const RedrawSpy redraws;
   TraceLog trace;
   Hide("mAIN");
   EXPECT_EQ(trace.Text(), "Hide\n");
   EXPECT_TRUE(IsWindow(main));
   EXPECT_FALSE(IsWindowVisible(main));
-  ASSERT_EQ(redraws.size(), 1u);
-  EXPECT_EQ(redraws[0].window, nullptr);
-  EXPECT_TRUE(EqualRect(&redraws[0].area, &place));
-  EXPECT_EQ(redraws[0].region, nullptr);
-  EXPECT_EQ(redraws[0].flags, 1413u);
+  EXPECT_EQ(redraws.lines(), RedrawLine(nullptr, &place, 1413));
 }
 
 TEST_F(ShowTest, HideOfAnUnknownWindowDoesNothing) {
   const HWND main = LoadShown("Main", kOneButton);
-  const ReplacedImport import("RedrawWindow", reinterpret_cast<void*>(RecordRedraw));
-  redraws.clear();
+  const RedrawSpy redraws;
   TraceLog trace;
   Hide("Absent");
   Hide(nullptr);
   Hide("");
   EXPECT_EQ(trace.Text(), "Hide\nHide\nHide\n");
-  EXPECT_TRUE(redraws.empty());
+  EXPECT_EQ(redraws.lines(), "");
   EXPECT_TRUE(IsWindowVisible(main));
 }
 

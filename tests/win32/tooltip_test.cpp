@@ -4,6 +4,7 @@
 #include "tests/win32/support/forms.h"
 #include "tests/win32/support/imports.h"
 #include "tests/win32/support/input.h"
+#include "tests/win32/support/redraws.h"
 #include "tests/win32/support/script.h"
 #include "tests/win32/support/slots.h"
 
@@ -339,6 +340,12 @@ TEST_F(TooltipTest, TheHintComesUpBelowThePointer) {
   GetWindowRect(tooltip, &place);
   EXPECT_EQ(place.left, pointer.x);
   EXPECT_EQ(place.top, pointer.y + GetSystemMetrics(SM_CYCURSOR) / 2);
+}
+
+TEST_F(TooltipTest, TheHintIsDrawnAnewWithItsFrame) {
+  const RedrawSpy redraws;
+  Show(first_);
+  EXPECT_EQ(redraws.lines(), RedrawLine(Tooltip(), nullptr, 1029));
 }
 
 // The size of a text without wrapping, as the platform measures it.

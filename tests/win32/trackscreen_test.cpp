@@ -172,6 +172,26 @@ TEST_F(TrackRectTest, ClipsThePointerToTheClientAreaWhileDragging) {
   EXPECT_TRUE(EqualRect(&area, &free));
 }
 
+// Whoever holds the pointer: the release of a press that drags nothing lets it go, too.
+TEST_F(TrackRectTest, AnyReleaseFreesThePointer) {
+  settings_.flags = 0;
+  Do([this] {
+    RECT held = {};
+    GetWindowRect(window_, &held);
+    ClipCursor(&held);
+    GetClipCursor(&held);
+    EXPECT_LT(held.right, GetSystemMetrics(SM_CXSCREEN));
+  });
+  Release();
+  Do([] {
+    RECT area = {};
+    GetClipCursor(&area);
+    EXPECT_EQ(area.right, GetSystemMetrics(SM_CXSCREEN));
+  });
+  End();
+  EXPECT_EQ(Track(kFrame, {50, 20}), kFrame);
+}
+
 TEST_F(TrackRectTest, ThePointerShowsWhatADragWouldDo) {
   struct Case {
     POINT at;
