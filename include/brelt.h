@@ -512,8 +512,9 @@ BRELT_API(int32_t)
 GetList(const char* name, int32_t id, int32_t index, char* text, int32_t size, const char* type);
 
 /* Sets in the same lists: "String" replaces the text of an item or, with the index 0x7FFFFFFF, the whole list
- * by the lines of the text. An item has at most 1024 characters. "Tbitmap" sets the picture of an icon list's
- * item, which the caller keeps, or takes it away by null. An index out of range does nothing.
+ * by the lines of the text, less tabs and other control characters. An item has at most 1024 characters.
+ * "Tbitmap" sets the picture of an icon list's item, which the caller keeps, or takes it away by null. An
+ * index out of range does nothing.
  * Codes: 756, 702, 703 also for another type, 727.
  * Example:
  *   SetList("Main", IDC_LIST, 0x7FFFFFFF, "red\ngreen\nblue\n", "String"); */
@@ -889,7 +890,7 @@ BRELT_API(int32_t) Controlarray(const char* name, int32_t id, int32_t index, int
 
 /* Gets the index of memberId, a control or item of the window memberName, in the array of id; -1 if it isn't
  * in it.
- * Codes: 756, 753, 702, 707 for id 0, 727.
+ * Codes: 756, 753, 702 for either window, 707 for id 0, 727 also for two different windows.
  * Example:
  *   int32_t index;
  *   Controlarraypos("Main", IDC_CHECK, "Main", IDC_CHECK + 1, &index); */
@@ -919,14 +920,14 @@ BRELT_API(int32_t) ControlUbound(const char* name, int32_t id, int32_t* bound);
  *   ControlList("Main", 1, controls, sizeof controls, &count); */
 BRELT_API(int32_t) ControlList(const char* name, uint8_t details, char* text, int32_t size, int32_t* count);
 
-/* Gets the id of the button of a group that is turned on; -1 if none is. selectedId may be null.
+/* Gets the id of the button that is turned on in a group; -1 if none is. selectedId may be null.
  * Codes: 756, 702, 703 for a control that can't be in such a group, 727.
  * Example:
  *   int32_t selected;
  *   Controlselection("Main", IDC_RADIO, &selected); */
 BRELT_API(int32_t) Controlselection(const char* name, int32_t id, int32_t* selectedId);
 
-/* Gets its position in the group, from the option base. position may be null.
+/* Gets the position of that button in its group, from the option base; -1 if none is. position may be null.
  * Codes: 756, 702, 703 for a control that can't be in such a group, 727.
  * Example:
  *   int32_t position;
@@ -942,14 +943,14 @@ BRELT_API(int32_t) Controlselectionpos(const char* name, int32_t id, int32_t* po
 BRELT_API(int32_t)
 AddItem(const char* name, int32_t id, int32_t index, const char* text, const void* picture);
 
-/* Removes the item with an index. The item that follows a selected one is selected, or the last. An
- * index out of range does nothing.
+/* Removes the item with an index from such a list. If it was selected, the item behind it is selected then,
+ * or the last. An index out of range does nothing.
  * Codes: 756, 702, 703 for another control, 727 also for id 0 and menu items.
  * Example:
  *   RemoveItem("Main", IDC_LIST, 1); */
 BRELT_API(int32_t) RemoveItem(const char* name, int32_t id, int32_t index);
 
-/* Removes all items of the same lists.
+/* Removes all items of a list box, icon list or combo box.
  * Codes: 756, 702, 703 for another control, 727 also for id 0 and menu items.
  * Example:
  *   Clear("Main", IDC_LIST); */
@@ -958,7 +959,7 @@ BRELT_API(int32_t) Clear(const char* name, int32_t id);
 /* Sets the tab stops of a list box or icon list so that its columns, which tabs divide, line up.
  * Codes: 756, 702, 703, 727.
  * Example:
- *   SetList("Main", IDC_LIST, 0x7FFFFFFF, "Lisbon\t504718\nOslo\t709037\n", "String");
+ *   AddItem("Main", IDC_LIST, -1, "Lisbon\t567131", NULL);
  *   AlignItems("Main", IDC_LIST); */
 BRELT_API(int32_t) AlignItems(const char* name, int32_t id);
 
@@ -981,11 +982,11 @@ BRELT_API(int32_t) AppIcon(HMODULE instance, const char* iconFile);
 /* ==== Rubber band ==== */
 
 /* Lets the user move and size a rectangle on a window with the mouse, by a frame with eight handles. The
- * window must be active and the left button down; otherwise it beeps and changes nothing. flags 1 ends it at
- * the first release of the button; otherwise any message that isn't the mouse's ends it, and a press outside
- * the frame. handleSize is held to 0 to 10, minWidth and minHeight to 2 to 100, penWidth to 0 to 10. Drawing
- * is clipped to the bounds, client coordinates, if right and bottom aren't 0. x, y, width and height are the
- * rectangle in client coordinates, read and written.
+ * window must be active and the left button down; otherwise it beeps and changes nothing. It ends by a press
+ * outside the frame, with flags 1 also by the first release, and by any message but those of moves, that
+ * button and timers. handleSize is held to 0 to 10, minWidth and minHeight to 2 to 100, penWidth to 0 to 10.
+ * Drawing is clipped to the bounds, client coordinates, if right and bottom aren't 0. x, y, width and height
+ * are the rectangle in client coordinates, read and written.
  * Codes: 702.
  * Example:
  *   int32_t x = 20, y = 20, width = 100, height = 60;

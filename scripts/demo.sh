@@ -23,13 +23,6 @@ events=build/demo/events.txt
 : >"$events"
 (cd build/win32/bin && exec timeout 60 wine hello.exe) >"$events" 2>/dev/null &
 sample=$!
-wait_for() {
-  for _ in $(seq 200); do
-    ! "$@" >/dev/null 2>&1 || return 0
-    sleep 0.05
-  done
-  die "waited in vain for: $*"
-}
 find_form() { xdotool search --name '^Hello from an RC file$'; }
 heard() { grep -q "$1" "$events"; }
 wait_for find_form

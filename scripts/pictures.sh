@@ -4,7 +4,7 @@
 # Each NAME is one of the pictures below; without any, all are made, into docs/pictures.
 . "$(dirname "$0")/lib.sh"
 scripts/setup.sh
-build_preset win32
+build_preset win32 brelt controls hello hints trackrect
 . scripts/wine.sh
 wine_make_prefix x11
 export WINEPREFIX=$wine_home/x11
@@ -14,14 +14,8 @@ events=$(mktemp)
 trap 'wine_stop; stop_display; rm -f "$events"' EXIT
 start_display
 
-wait_for() {
-  for _ in $(seq 400); do
-    ! "$@" >/dev/null 2>&1 || return 0
-    sleep 0.05
-  done
-  die "waited in vain for: $*"
-}
 heard() { grep -q "$1" "$events"; }
+pointer_is() { xdotool getmouselocation | grep -q "^x:$1 y:$2 "; }
 find_window() { xdotool search --onlyvisible --name "^$1\$"; }
 
 # start_sample NAME TITLE: runs a sample and sets X, Y, WIDTH and HEIGHT to where its form with that title is.
@@ -52,21 +46,35 @@ take_picture() {
 picture_controls() {
   start_sample controls 'Controls'
   # Fill, then sort.
-  xdotool mousemove $((X + 250)) $((Y + 362)) click 1
+  xdotool key alt+f
   wait_for heard '^event 32772, wParam 141,'
-  xdotool mousemove $((X + 355)) $((Y + 362)) click 1
+  xdotool key alt+s
   wait_for heard '^event 32772, wParam 142,'
   xdotool mousemove $((X + 5)) $((Y + 300))
   take_picture controls 0 0 "$WIDTH" "$HEIGHT"
   end_sample
 }
 
+picture_hello() {
+  start_sample hello 'Hello from an RC file'
+  # A name, and the check box by the keyboard.
+  xdotool mousemove $((X + 120)) $((Y + 62)) click 1 type 'World'
+  wait_for heard '^event 32770,'
+  xdotool key Tab key space
+  wait_for heard '^event 32772, wParam 102,'
+  xdotool mousemove $((X + 5)) $((Y + 200))
+  take_picture hello 0 0 "$WIDTH" "$HEIGHT"
+  end_sample
+}
+
 picture_rubberband() {
   start_sample trackrect 'Press on a card and drag it'
-  # The second card, by its bottom right handle, which takes the pointer to its corner.
-  xdotool mousemove $((X + 225)) $((Y + 90)) mousedown 1 mouseup 1
-  wait_for heard '^event 32771, wParam 102,'
+  # The second card by its bottom right handle, which takes the pointer to the card's corner: the drag has begun.
+  xdotool mousemove $((X + 227)) $((Y + 118)) mousedown 1
+  wait_for pointer_is $((X + 231)) $((Y + 122))
+  xdotool mousemove $((X + 300)) $((Y + 190))
   take_picture rubberband 0 0 "$WIDTH" "$HEIGHT"
+  xdotool mouseup 1
   end_sample
 }
 
@@ -80,7 +88,7 @@ picture_tooltip() {
   end_sample
 }
 
-[ $# -gt 0 ] || set -- controls rubberband tooltip
+[ $# -gt 0 ] || set -- controls hello rubberband tooltip
 for picture in "$@"; do
   declare -F "picture_$picture" >/dev/null || die "no picture is called $picture"
   "picture_$picture"

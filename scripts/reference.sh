@@ -99,10 +99,16 @@ awk -v pages="$work/pages" -v examples="$work/examples.c" '
     write_paragraphs(1, comment_lines)
   }
 
+  # What an id can be depends on the family.
+  function words_of_id() {
+    if (family == "Menus") return "number of the menu item"
+    if (family == "Arrays, lists and groups") return "number of the control or menu item"
+    return "number of the control or menu item, 0 for the window"
+  }
   # What an argument is: by its name where that has one meaning everywhere, otherwise by its type.
   function words_of_argument(argument, type, first, previous) {
     if (argument == "name" && first == "name") return "text, the name of the object"
-    if (argument == "id" && first == "name") return "number of the control or menu item, 0 for the window"
+    if (argument == "id" && first == "name") return words_of_id()
     if (argument ~ /[sS]ize$/ && previous ~ /^(char|void)\*$/) return "bytes of the buffer"
     return words_of_type(type)
   }

@@ -113,6 +113,15 @@ stop_display() {
   unset DISPLAY
 }
 
+# wait_for COMMAND...: until a command succeeds, which it must within 20 seconds.
+wait_for() {
+  for _ in $(seq 400); do
+    ! "$@" >/dev/null 2>&1 || return 0
+    sleep 0.05
+  done
+  die "waited in vain for: $*"
+}
+
 # wine_run KIND PROGRAM [ARGUMENT...]: runs a program to its end, in a clean working folder of its prefix.
 # WINE_PROCESSOR=N keeps the program and the server it talks to on one processor: every call between them is several
 # times faster then, and times can be compared.
