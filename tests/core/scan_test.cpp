@@ -316,6 +316,7 @@ TEST(DecimalValue, ReadsSignAndDigitsAndClampsToTheSignedRange) {
                {"-2147483647", -2147483647},
                {"-2147483648", INT32_MIN},
                {"-2147483649", INT32_MIN},
+               {"-21474836470", INT32_MIN},
                {"-99999999999999999999999999", INT32_MIN}};
   for (const auto& expected : cases) {
     SCOPED_TRACE(expected.text);
