@@ -268,6 +268,18 @@ TEST_F(FocusTest, APushButtonThatGetsTheFocusGetsTheDefaultLook) {
   EXPECT_EQ(LookOf(window, 104), static_cast<DWORD>(BS_DEFPUSHBUTTON));
 }
 
+TEST_F(FocusTest, ThePushButtonIsDrawnAnewAndTheDefaultButtonNotAskedFor) {
+  const HWND window = LoadShown("Main", kLooks);
+  const MessageSpy spy;
+  Step(window, 102);
+  for (const int id : {101, 102}) {
+    const std::vector<SentMessage> looks = spy.To(Child(window, id), BM_SETSTYLE);
+    ASSERT_FALSE(looks.empty()) << id;
+    EXPECT_EQ(looks.back().lParam, TRUE) << id;
+  }
+  EXPECT_TRUE(spy.To(window, DM_GETDEFID).empty());
+}
+
 TEST_F(FocusTest, AnotherControlTakesTheDefaultLookAwayAndItIsNotGivenBack) {
   for (const int id : {103, 105}) {
     SCOPED_TRACE(id);

@@ -147,6 +147,19 @@ TEST_F(CommandTest, ARadioButtonIsHeardWhenItIsTurnedOn) {
   EXPECT_TRUE(Heard(NoEvents{}));
 }
 
+// Only a button that is on counts, not one that is neither on nor off.
+LRESULT CALLBACK AnswerIndeterminate(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == BM_GETCHECK) return BST_INDETERMINATE;
+  return DefWindowProcA(window, message, wParam, lParam);
+}
+
+TEST_F(CommandTest, ARadioButtonThatIsNeitherOnNorOffIsSilent) {
+  const HWND window = LoadShown("Main", "  AUTORADIOBUTTON \"A\", 101, 10, 10, 50, 12, BS_AUTORADIOBUTTON");
+  SetWindowLongA(GetDlgItem(window, 101), GWL_WNDPROC, reinterpret_cast<LONG>(AnswerIndeterminate));
+  Notify(window, 101, BN_CLICKED);
+  EXPECT_TRUE(Heard(NoEvents{}));
+}
+
 TEST_F(CommandTest, ACheckBoxIsHeardBothWays) {
   const HWND window = LoadShown("Main", "  AUTOCHECKBOX \"A\", 101, 10, 10, 50, 12, BS_AUTOCHECKBOX");
   for (const LRESULT state : {BST_CHECKED, BST_UNCHECKED}) {

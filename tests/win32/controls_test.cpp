@@ -312,13 +312,22 @@ TEST_F(ControlsTest, OfListBoxesWithAHorizontalScrollBarGetAnExtentFromTheUnitsO
   EXPECT_TRUE(spy.To(GetDlgItem(form.window, 101), LB_SETHORIZONTALEXTENT).empty());
 }
 
+std::vector<BOOL> redrawn;
+BOOL WINAPI RecordRedraw(HWND control, int bar, int least, int most, BOOL redraw) {
+  redrawn.push_back(redraw);
+  return SetScrollRange(control, bar, least, most, redraw);
+}
+
 TEST_F(ControlsTest, OfScrollBarsRunFrom0To100) {
+  const ReplacedImport setting("SetScrollRange", reinterpret_cast<void*>(&RecordRedraw));
+  redrawn.clear();
   const LoadResult form = LoadText("Main", WithControls("  SCROLLBAR 100, 0, 0, 90, 9\n"));
   int least = -1;
   int most = -1;
   ASSERT_TRUE(GetScrollRange(GetDlgItem(form.window, 100), SB_CTL, &least, &most));
   EXPECT_EQ(least, 0);
   EXPECT_EQ(most, 100);
+  EXPECT_EQ(redrawn, std::vector<BOOL>{FALSE});
 }
 
 HWND WINAPI RefuseLists(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width,

@@ -145,6 +145,25 @@ TEST_F(CustomControlsTest, OfOtherFamiliesKeepTheirTextAsItIs) {
   }
 }
 
+// Whether a control takes a picture is looked up like the standard classes: each piece of the list counts.
+TEST_F(CustomControlsTest, WhoseWordIsAPieceOfThePictureFamiliesGetTheirPath) {
+  struct Case {
+    const char* word;
+    const char* windowText;
+  };
+  for (const Case& c : {Case{"MAP", "C:\\work\\a.bmp\nhint"}, Case{"BITMAPBUTTO", "C:\\work\\a.bmp\nhint"},
+                        Case{"BITMAPBUTTONS", "a.bmp\nhint"}, Case{"IMAGES", "a.bmp\nhint"}}) {
+    SCOPED_TRACE(c.word);
+    const std::string module = ProgramFolder() + c.word + ".1.3.2207.dll";
+    ASSERT_TRUE(CopyFileA((ProgramFolder() + "SHAPE.1.3.2207.dll").c_str(), module.c_str(), FALSE));
+    const LoadResult form = LoadControl(c.word, "a.bmp\\nhint");
+    EXPECT_EQ(form.message, "");
+    EXPECT_EQ(TextOf(GetDlgItem(form.window, 100)), c.windowText);
+    DestroyLibraryWindows();
+    EXPECT_TRUE(DeleteFileA(module.c_str()));
+  }
+}
+
 TEST_F(CustomControlsTest, OfTheFamilyBitmapbuttonAloneGetAHint) {
   for (const char* family : {"Bitmapbutton", "Image", "Shape", "Progressbar", "Iconlist"}) {
     SCOPED_TRACE(family);

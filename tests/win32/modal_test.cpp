@@ -173,6 +173,34 @@ TEST_F(ModalTest, ANestedShowChangesWhatTheOuterOneReports) {
   EXPECT_EQ(result, 1);
 }
 
+// The button is noted ahead of its event, so that what the event shows has the last word.
+TEST_F(ModalTest, AShowWithinAClickHasTheLastWordOnTheOuterResult) {
+  const HWND outer = LoadDialog("Outer", kButtons).window;
+  for (const bool presses : {true, false}) {
+    SCOPED_TRACE(presses ? "pressed" : "closed");
+    int32_t innerResult = -1;
+    Log().onEvent = [&](HWND window, const Event& event) {
+      if (event.event != EV_CLICK) return 0;
+      if (window == outer) {
+        LoadDialog("Inner", kButtons);
+        EXPECT_EQ(ShowForm("Inner", true, &innerResult), RTX_OK);
+        Hide("Outer");
+      } else {
+        Unload("Inner");
+      }
+      return 0;
+    };
+    Script script;
+    script.Do([&] { ClickControl(GetDlgItem(outer, 101)); }).Do([&] {
+      presses ? ClickControl(GetHandle("Inner", 1, nullptr)) : void(Unload("Inner"));
+    });
+    int32_t result = -1;
+    EXPECT_EQ(ShowForm("Outer", true, &result), RTX_OK);
+    EXPECT_EQ(innerResult, presses ? 1 : 0);
+    EXPECT_EQ(result, innerResult);
+  }
+}
+
 // ---- A quit message ----
 
 TEST_F(ModalTest, AQuitMessageEndsTheShowAndIsUsedUp) {
