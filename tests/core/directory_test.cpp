@@ -32,21 +32,24 @@ TEST_F(ResourceDirectoryTest, FindsWhatASearchFromTheTopFinds) {
       "#include \"a.h\"\r\nA DIALOG 0,0,1,1 // c\r\nBEGIN\r\n/* END\r\n */ LTEXT \"//\",1,1,1,1,1\r\nEND\r\n"
       "B ICON b.ico\r\na MENU\r\nBEGIN\r\nEND\r\nB DIALOG 0,0,1,1\r\nBEGIN\r\nEND\r\n"
       "STRINGTABLE FIXED\r\nBEGIN\r\nEND\r\nLANGUAGE LANG_X, SUB\r\n" +
-      std::string(3000, '-') +
-      "\r\nC LOG\r\nBEGIN\r\nBEGIN\r\nEND\r\nEND\r\nLAST MENU\r\nBEGIN\r\n POPUP \"x\"\r\n";
+      std::string(3000, '-') + "\r\nC LOG\r\nBEGIN\r\nBEGIN\r\nEND\r\nEND\r\n";
   for (int i = 0; i < 600; ++i) {
     file += "N" + std::to_string(i * 7919 % 600) + " MENU\r\nBEGIN\r\n MENUITEM \"" + std::to_string(i) +
             "\",1\r\nEND\r\n";
   }
+  // It swallows whatever stands behind it.
+  file += "LAST MENU\r\nBEGIN\r\n POPUP \"x\"\r\nBEHIND ICON b.ico\r\n";
   test::WriteFile(kPath, file);
   ResourceDirectory directory(kPath);
   ASSERT_TRUE(directory.IsComplete());
   for (const char* types : {"DIALOG", "MENU", "*", "", "DIALOG\nMENU\n", "ICON"}) {
-    for (const char* name : {"A", "a", "B", "b", "1", "LANG_X", "C", "LAST", "NONE", "", "BEGIN"}) {
+    for (const char* name : {"A", "a", "B", "b", "1", "LANG_X", "C", "LAST", "BEHIND", "NONE", "", "BEGIN"}) {
       ExpectSameAsSearch(directory, name, types);
     }
   }
   for (int i = 599; i >= 0; i -= 13) ExpectSameAsSearch(directory, "n" + std::to_string(i), "MENU");
+  FixedText<99> out;
+  for (const char* name : {"A", "n0", "n599", "LAST"}) EXPECT_GT(directory.Locate(name, "*", out), 0) << name;
 }
 
 TEST_F(ResourceDirectoryTest, AFileThatCannotBeReadIsACompleteDirectoryOfNothing) {

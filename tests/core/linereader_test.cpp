@@ -127,6 +127,16 @@ TEST_F(LineReaderTest, AFileMayComeInAnyPieces) {
   }
 }
 
+TEST_F(LineReaderTest, ALineOfFullLengthMayEndInTheNextPiece) {
+  const std::string x1023(1023, 'x');
+  for (const int most : {1022, 1023, 1024, 1025}) {
+    SCOPED_TRACE(most);
+    test::LimitReads(most);
+    EXPECT_EQ(Lines(x1023 + "\r\nnext\n"), (Strings{x1023 + "\n", "next\n"}));
+    EXPECT_EQ(Lines(x1023 + "\nnext\n"), (Strings{x1023 + "\n", "next\n"}));
+  }
+}
+
 TEST_F(LineReaderTest, ChangingALineInPlaceLeavesTheNextOneAlone) {
   test::WriteFile("a.rc", "one\r\ntwo\n");
   LineReader reader("a.rc");

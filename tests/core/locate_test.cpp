@@ -449,6 +449,7 @@ class IconFile : public Located {
 
 TEST_F(IconFile, IsAQuotedNameWithDoubledBackslashesMadeOne) {
   EXPECT_EQ(Of("A ICON \"my.ico\"\n"), "my.ico");
+  EXPECT_EQ(Of(" \tA ICON \"my.ico\"\n"), "my.ico");
   EXPECT_EQ(Of(R"(A ICON "c:\\icons\\my.ico")"), R"(c:\icons\my.ico)");
   EXPECT_EQ(Of(R"(A ICON "c:\icons\new.ico")"), R"(c:\icons\new.ico)");
   EXPECT_EQ(Of(R"(A ICON "\\\\server\\\x.ico")"), R"(\\server\\x.ico)");

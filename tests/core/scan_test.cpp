@@ -334,6 +334,7 @@ TEST(HexDigitsValue, ReadsLeadingDigitsAndIsAllOnesBeyondEight) {
                {"fFx", 0xFF},
                {"10L", 0x10},
                {"ffffffff", 0xFFFFFFFF},
+               {"fffffff0", 0xFFFFFFF0},
                {"0000000012345678", 0x12345678},
                {"100000000", 0xFFFFFFFF},
                {"123456789ABCDEF0", 0xFFFFFFFF}};
