@@ -54,6 +54,14 @@ TEST(ResourceDelete, OfADialogTakesItsMenuItsIconsAndTheNamesThatNothingUses) {
       Crlf("#define KEPT 102\n\nI3 ICON 3.ico\n\nE DIALOG 1,2,3,4\nBEGIN\nLTEXT \"\",KEPT,1,2,3,4\nEND\n"));
 }
 
+TEST(ResourceDelete, OfADialogLeavesTheIconsThatOtherControlsThanIconsName) {
+  // Check boxes have the same low bits as icons.
+  EXPECT_EQ(AfterDelete("I ICON i.ico\nD DIALOG 1,2,3,4\nBEGIN\nAUTOCHECKBOX \"I\",-1,1,2,3,4\n"
+                        "CONTROL \"I\",-1,\"IMAGE\",0x3,1,2,3,4\nEND\n",
+                        "D"),
+            Crlf("I ICON i.ico\n"));
+}
+
 TEST(ResourceDelete, OfADialogTakesAMenuAlsoWhereAnotherUsesIt) {
   const std::string form = " DIALOG 1,2,3,4\nMENU M\nBEGIN\nEND\n";
   EXPECT_EQ(AfterDelete(std::string(kMenu) + "D" + form + "E" + form, "D"), Crlf("E" + form));
@@ -135,6 +143,15 @@ TEST(ResourceDelete, TellsWhyItCannot) {
                                      "> should be a full path with a drive letter or just a filename");
   }
   EXPECT_EQ(Delete("A", nullptr), "The file <> should be a full path with a drive letter or just a filename");
+}
+
+TEST(ResourceDelete, ShowsTheNameAsItIsWhereThereIsNoCurrentDirectory) {
+  test::SetFile("A ICON a.ico\n");
+  test::SetCurrentDirectory("");
+  const std::string message = "The file <a.rc> should be a full path with a drive letter or just a filename";
+  EXPECT_EQ(Delete("A", "a.rc"), message);
+  EXPECT_EQ(test::Rename("A", "B", "a.rc"), message);
+  EXPECT_EQ(test::WriteText("A ICON b.ico\n", "a.rc"), message);
 }
 
 TEST(ResourceDelete, SaysNothingAboutWhatIsNotThere) {

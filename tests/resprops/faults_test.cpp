@@ -169,5 +169,46 @@ TEST(Faults, NoFileOperationThatFailsLosesTextOrDoublesAResource) {
   }
 }
 
+// A change of one resource happens whole or not at all, also where the file is read in several goes.
+TEST(Faults, AFileOperationThatFailsLeavesTheOldTextOrTheNewOne) {
+  struct Change {
+    const char* name;
+    std::string (*operate)();
+  };
+  const Change changes[] = {
+      {"delete", [] { return test::Delete("M"); }},
+      {"rename", [] { return test::Rename("M", "Changed"); }},
+      {"rename to the name of the last", [] { return test::Rename("M", "Other"); }},
+      {"replace", [] { return test::WriteText("M ICON m.ico\n"); }},
+      {"append", [] { return test::WriteText("New ICON new.ico\n"); }},
+  };
+  const std::string before = test::Crlf(kForms + "\n");
+  const auto run = [&before](const Change& change, int n) {
+    test::SetFile(before);
+    test::LimitReads(100);
+    test::FailFileOperation(n);
+    return change.operate();
+  };
+  for (const Change& change : changes) {
+    SCOPED_TRACE(change.name);
+    const std::string usual = run(change, -1);
+    const std::string after = test::ReadFile(kRc);
+    const int count = test::FileOperationCount();
+    ASSERT_GT(count, 10);
+    int told = 0;
+    for (int n = 0; n < count; ++n) {
+      SCOPED_TRACE(n);
+      const std::string message = run(change, n);
+      const std::string text = test::ReadFile(kRc);
+      told += message != usual ? 1 : 0;
+      // Beside half a file the old one is whole, under its temporary name.
+      if (text == before || text == after || test::ReadFile("c:\\work\\1.tmp") == before) continue;
+      // A file whose size can't be had at first counts as none, and nothing is put between it and what comes.
+      EXPECT_EQ(text, before + test::Crlf("New ICON new.ico\n\n"));
+    }
+    EXPECT_GE(told, 8);
+  }
+}
+
 }  // namespace
 }  // namespace brelt::resprops

@@ -61,6 +61,8 @@ TEST(RewriteSymbols, WritesTheBlockWhereTheDefinesBeganAheadOfTheResources) {
       {"// words\n#define X 1\n", "// words\n%"},
       {"1 TEXTINCLUDE\n#define X 1\n", "1 TEXTINCLUDE\n%"},
       {"A icon a\n#define X 1\n", "A icon a\n%"},
+      {"A DIA\n#define X 1\n", "A DIA\n%"},
+      {"A LOG\n#define X 1\n", "%A LOG\n"},
       {"A DIALOG\n#define X 1\n", "%A DIALOG\n"},
       {"\t A LANGUAGE\n#define X 1\n", "%\t A LANGUAGE\n"},
       // Only the first column and lower case make a #define.
@@ -98,6 +100,9 @@ TEST(RewriteSymbols, DropsAnIncludeBlockThatBeginsAtTheTop) {
   const std::string block = "1 TEXTINCLUDE\nBEGIN\n\"resource.h\\0\"\nEND\n";
   EXPECT_EQ(AfterRewrite(block + "\nA ICON a\n", {1, 4, "resource.h"}),
             Crlf(std::string(kBlock) + "A ICON a\n"));
+  // With such a block #define lines ahead of the resources don't matter.
+  EXPECT_EQ(AfterRewrite("// head\n#define X 1\n" + block + "A ICON a\n", {3, 6, "resource.h"}),
+            Crlf(std::string(kBlock) + "// head\nA ICON a\n"));
   // At the top an #include is taken over, even that of the header.
   EXPECT_EQ(AfterRewrite("#include \"resource.h\"\n" + block + "A ICON a\n", {2, 5, "resource.h"}),
             Crlf(std::string(kBlock) + "#include \"resource.h\"\nA ICON a\n"));
