@@ -32,7 +32,7 @@ int32_t ShowModeless(HWND window) noexcept {
 }
 
 int32_t ShowModal(HWND window, int32_t& result) noexcept {
-  if (IsModalWindow(window) || IsWindowVisible(window)) return RTX_SHOW_MODAL;
+  if (IsWindowVisible(window)) return RTX_SHOW_MODAL;  // as a modal one is, too
   ModalSet set;
   EnterModal(window, set);
   Library.LastButtonId = 0;
@@ -47,8 +47,8 @@ int32_t ShowWindowObject(const LoadRequest& request, HWND* window, bool modal, i
   int32_t code = RTX_OK;
   HWND found = FindOrLoad(request, window, code);
   if (found == nullptr) return code;
-  if (request.instance == nullptr || request.name == nullptr || request.rcFile == nullptr ||
-      !IsWindowEnabled(found)) {
+  // Without a name there would be no window by now.
+  if (request.instance == nullptr || request.rcFile == nullptr || !IsWindowEnabled(found)) {
     return modal ? RTX_SHOW_MODAL : RTX_SHOW_MODELESS;
   }
   return modal ? ShowModal(found, result) : ShowModeless(found);

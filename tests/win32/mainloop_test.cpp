@@ -3,6 +3,7 @@
 
 #include "tests/win32/support/classes.h"
 #include "tests/win32/support/forms.h"
+#include "tests/win32/support/imports.h"
 #include "tests/win32/support/input.h"
 #include "tests/win32/support/script.h"
 #include "tests/win32/support/trace.h"
@@ -211,9 +212,14 @@ TEST_F(MainLoopTest, IsNotKeptRunningByInputMethodWindows) {
   const HWND ime = FindInputMethodWindow();
   ASSERT_TRUE(IsWindow(ime));
   ASSERT_TRUE(IsWindow(text.get()));
+  SetWindowTextA(ime, "DEFAULT ime");
+  // Other threads' windows for input aren't in the way of this thread's.
+  const CountedImport<struct Enumerating, BOOL, WNDENUMPROC, LPARAM> allWindows("EnumWindows");
   Script script;
   script.DestroyAll();
   EXPECT_EQ(RunMainLoop(main), 0);
+  EXPECT_EQ(allWindows.calls(), 0);
+  SetWindowTextA(ime, "Default IME");
   EXPECT_TRUE(IsWindow(ime));
   EXPECT_TRUE(IsWindow(text.get()));
 }

@@ -238,6 +238,13 @@ TEST_F(MenuKeysTest, OfAnItemThatWasRemovedAreUsedUpSilently) {
   ExpectNothing(window, 'O', {VK_CONTROL});
 }
 
+TEST_F(MenuKeysTest, OfASeparatorAreUsedUpSilently) {
+  const HWND window = LoadWithMenu();
+  DeleteMenu(GetMenu(window), 201, MF_BYCOMMAND);
+  AppendMenuA(GetSubMenu(GetMenu(window), 0), MF_SEPARATOR, 201, nullptr);
+  ExpectNothing(window, 'O', {VK_CONTROL});
+}
+
 // The button would take the key as its mnemonic, or F10 would open the menu.
 TEST_F(MenuKeysTest, ThatAreUsedUpDoNotReachThePlatform) {
   const HWND window = LoadWithMenu();

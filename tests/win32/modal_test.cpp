@@ -1,6 +1,7 @@
 // Modal shows: what they disable, what ends them, what comes back.
 #include <algorithm>
 
+#include "tests/win32/support/classes.h"
 #include "tests/win32/support/forms.h"
 #include "tests/win32/support/imports.h"
 #include "tests/win32/support/input.h"
@@ -286,6 +287,22 @@ std::vector<HWND> EnabledWindows() {
   return windows;
 }
 
+TEST_F(ModalTest, AShowLeavesWindowsOfTheChildStyleEnabled) {
+  const TestClass plain("MODALCHILD");
+  const HWND child = CreateWindowExA(0, "MODALCHILD", "", WS_CHILD, 0, 0, 10, 10, GetDesktopWindow(), nullptr,
+                                     GetModuleHandleA(nullptr), nullptr);
+  const std::vector<HWND> enabled = EnabledWindows();
+  ASSERT_EQ(std::count(enabled.begin(), enabled.end(), child), 1) << "The platform has it among the others";
+  LoadDialog("Box", kButtons);
+  Script script;
+  script.Do([&] {
+    EXPECT_TRUE(IsWindowEnabled(child));
+    Unload("Box");
+  });
+  EXPECT_EQ(ShowForm("Box", true), RTX_OK);
+  DestroyWindow(child);
+}
+
 // Plain windows are enough, and made quickly.
 HWND MakePlainWindow() {
   return CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, GetModuleHandleA(nullptr),
@@ -489,6 +506,18 @@ TEST_F(ModalTest, TheWayBackNeedsThatTheClosingWindowIsEnabled) {
 TEST_F(ModalTest, NoPreviousWindowIsNotedWhenNoneIsActive) {
   const HWND box = LoadDialog("Box", kButtons).window;
   ASSERT_EQ(GetActiveWindow(), nullptr);
+  Script script;
+  script.Do([&] {
+    EXPECT_EQ(ReadSlot(box, kSlotPrevActive), 0);
+    Unload("Box");
+  });
+  EXPECT_EQ(ShowForm("Box", true), RTX_OK);
+}
+
+TEST_F(ModalTest, AWindowThatIsActiveAheadOfItsShowIsNotItsOwnPreviousOne) {
+  const HWND box = LoadDialog("Box", kButtons).window;
+  SetActiveWindow(box);
+  ASSERT_EQ(GetActiveWindow(), box);
   Script script;
   script.Do([&] {
     EXPECT_EQ(ReadSlot(box, kSlotPrevActive), 0);

@@ -360,6 +360,25 @@ TEST_F(CancelTest, DoesNothingOutsideTheWindow) {
   DestroyWindow(outside);
 }
 
+POINTS messagePlace;
+DWORD WINAPI AnswerPlace() { return MAKELONG(messagePlace.x, messagePlace.y); }
+
+// The place of the message counts without a sign, so that nothing left of the screen is ever hit.
+TEST_F(CancelTest, DoesNothingLeftOfTheScreen) {
+  HoldAt(child_, 5, 5);
+  const ReplacedImport import("GetMessagePos", reinterpret_cast<void*>(AnswerPlace));
+  for (const int left : {50, -500}) {
+    SCOPED_TRACE(left);
+    RECT area = {};
+    SetWindowPos(window_, nullptr, left, 50, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    GetWindowRect(child_, &area);
+    messagePlace = {static_cast<SHORT>(area.left + 2), static_cast<SHORT>(area.top + 2)};
+    told.clear();
+    SendMessageA(window_, WM_CANCELMODE, 0, 0);
+    EXPECT_EQ(told.size(), left > 0 ? 1u : 0u);
+  }
+}
+
 // Disabling a window cancels what goes on in it.
 TEST_F(CancelTest, ComesWhenTheWindowIsDisabled) {
   HoldAt(child_, 5, 5);
