@@ -73,8 +73,14 @@ target_include_directories(brelt_parts PUBLIC ${PROJECT_SOURCE_DIR})
 target_link_libraries(brelt_parts PRIVATE brelt_library_options)
 set(brelt_system_libraries comctl32 gdi32 shell32 user32)
 
+# For DLLs that are freed again; frame/unwindtables.cpp tells why.
+add_library(brelt_freed_dll INTERFACE)
+target_sources(brelt_freed_dll INTERFACE ${PROJECT_SOURCE_DIR}/frame/unwindtables.cpp)
+target_link_options(brelt_freed_dll INTERFACE
+  LINKER:--wrap=__register_frame_info LINKER:--wrap=__deregister_frame_info)
+
 add_library(brelt SHARED brelt.def $<TARGET_OBJECTS:brelt_parts>)
-target_link_libraries(brelt PRIVATE brelt_core ${brelt_system_libraries})
+target_link_libraries(brelt PRIVATE brelt_core brelt_freed_dll ${brelt_system_libraries})
 set_target_properties(brelt PROPERTIES PREFIX "" IMPORT_PREFIX "unused_" LINK_DEPENDS ${PROJECT_SOURCE_DIR}/brelt.def)
 
 # The linker's own import library has undecorated symbols, which stdcall callers don't ask for. So a second one is

@@ -17,14 +17,13 @@ scripts/setup.sh
 
 results=$(mktemp)
 trap 'rm -f "$results"' EXIT
-status=0
 # run NAME COMMAND...: a GoogleTest program, whose output is shown and counted.
 run() {
   local name=$1 code=0
   shift
   printf '== %s\n' "$name"
   "$@" --gtest_filter="$filter" --gtest_brief=1 2>&1 | tr -d '\r' | tee -a "$results" || code=$?
-  [ "$code" -eq 0 ] || { status=1; printf '== %s ended with %s\n' "$name" "$code"; }
+  [ "$code" -eq 0 ] || printf '== %s ended with %s\n' "$name" "$code" | tee -a "$results"
 }
 
 if [ $native -eq 1 ]; then
@@ -41,12 +40,14 @@ if [ $win32 -eq 1 ]; then
   run screen wine_run x11 build/win32/bin/screen_tests.exe
 fi
 
-awk -v status=$status '
+# A program that ended early gives no totals of its own, so that it is named.
+awk '
   /^\[==========\] [0-9]+ tests? from/ { total += $2 }
   /^\[  PASSED  \] [0-9]+ tests?\./ { passed += $4 }
   /^\[  SKIPPED \] [0-9]+ tests?,/ { skipped += $4 }
+  /^== .* ended with [0-9]+$/ { ended = ended ", " substr($0, 4) }
   END {
     failed = total - passed - skipped
-    printf "%d tests: %d passed, %d failed, %d skipped\n", total, passed, failed, skipped
-    exit failed > 0 || status != 0
+    printf "%d tests: %d passed, %d failed, %d skipped%s\n", total, passed, failed, skipped, ended
+    exit failed > 0 || ended != ""
   }' "$results"

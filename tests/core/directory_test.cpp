@@ -10,7 +10,7 @@
 namespace brelt::rc {
 namespace {
 
-constexpr const char* kPath = "c:\\work\\a.rc";
+constexpr const char* kPath = "c:\\home\\a.rc";
 
 class ResourceDirectoryTest : public ::testing::Test {
  protected:
@@ -53,7 +53,7 @@ TEST_F(ResourceDirectoryTest, FindsWhatASearchFromTheTopFinds) {
 }
 
 TEST_F(ResourceDirectoryTest, AFileThatCannotBeReadIsACompleteDirectoryOfNothing) {
-  test::WriteFile("c:\\work\\sub\\a.rc", "A ICON a.ico\n");
+  test::WriteFile("c:\\home\\sub\\a.rc", "A ICON a.ico\n");
   for (const char* path : {"missing.rc", "sub\\a.rc"}) {
     ResourceDirectory directory(path);
     EXPECT_TRUE(directory.IsComplete());

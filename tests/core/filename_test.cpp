@@ -95,24 +95,24 @@ class FileTest : public ::testing::Test {
 using FileSizeOf_ = FileTest;
 
 TEST_F(FileSizeOf_, TellsAnEmptyFileFromAMissingOne) {
-  test::WriteFile("c:\\work\\a.rc", "12345");
-  test::WriteFile("c:\\work\\empty.rc", "");
-  EXPECT_EQ(FileSizeOf("c:\\work\\a.rc"), 5);
+  test::WriteFile("c:\\home\\a.rc", "12345");
+  test::WriteFile("c:\\home\\empty.rc", "");
+  EXPECT_EQ(FileSizeOf("c:\\home\\a.rc"), 5);
   EXPECT_EQ(FileSizeOf("a.rc"), 5);
   EXPECT_EQ(FileSizeOf("empty.rc"), 0);
   EXPECT_EQ(FileSizeOf("missing.rc"), -1);
 }
 
 TEST_F(FileSizeOf_, RefusesNullEmptyDirectoriesAndDoubleBackslashes) {
-  test::WriteFile("c:\\work\\a.rc", "12345");
-  test::WriteFile("c:\\work\\\\b.rc", "12345");
-  test::MakeDirectory("c:\\work\\dir");
+  test::WriteFile("c:\\home\\a.rc", "12345");
+  test::WriteFile("c:\\home\\\\b.rc", "12345");
+  test::MakeDirectory("c:\\home\\dir");
   EXPECT_EQ(FileSizeOf(nullptr), -1);
   EXPECT_EQ(FileSizeOf(""), -1);
-  EXPECT_EQ(FileSizeOf("c:\\work\\dir"), -1);
-  EXPECT_EQ(FileSizeOf("c:\\work\\\\b.rc"), -1);
+  EXPECT_EQ(FileSizeOf("c:\\home\\dir"), -1);
+  EXPECT_EQ(FileSizeOf("c:\\home\\\\b.rc"), -1);
   EXPECT_EQ(FileSizeOf("\\\\server\\a.rc"), -1);
-  EXPECT_EQ(FileSizeOf("c:\\work\\a.rc"), 5);
+  EXPECT_EQ(FileSizeOf("c:\\home\\a.rc"), 5);
 }
 
 TEST_F(FileSizeOf_, GivesBothWordsOfTheSizeAndAllOnesOnFailure) {
@@ -151,7 +151,7 @@ using CurrentDirectoryText_ = FileTest;
 TEST_F(CurrentDirectoryText_, EndsInASeparator) {
   const struct {
     const char *directory, *text;
-  } cases[] = {{"c:\\work", "c:\\work\\"}, {"c:\\", "c:\\"}, {"c:/work/", "c:/work/"}, {"", ""}};
+  } cases[] = {{"c:\\home", "c:\\home\\"}, {"c:\\", "c:\\"}, {"c:/home/", "c:/home/"}, {"", ""}};
   for (const auto& expected : cases) {
     test::SetCurrentDirectory(expected.directory);
     test::ExpectCutToFit(expected.text, CurrentDirectoryText, test::Behind::kZero);
@@ -169,13 +169,13 @@ class FindFileNearProgram_ : public FileTest {
 };
 
 TEST_F(FindFileNearProgram_, LooksInTheCurrentDirectoryAndThenBesideTheProgram) {
-  test::SetCurrentDirectory("c:\\work");
+  test::SetCurrentDirectory("c:\\home");
   test::SetProgramPath("d:\\program\\test.exe");
   EXPECT_EQ(Find("a.rc"), "");
   test::WriteFile("d:\\program\\a.rc", "");
   EXPECT_EQ(Find("a.rc"), "d:\\program\\a.rc");
-  test::WriteFile("c:\\work\\a.rc", "");
-  EXPECT_EQ(Find("a.rc"), "c:\\work\\a.rc");
+  test::WriteFile("c:\\home\\a.rc", "");
+  EXPECT_EQ(Find("a.rc"), "c:\\home\\a.rc");
 }
 
 TEST_F(FindFileNearProgram_, AsksForTheModuleThatIsNamed) {
@@ -189,32 +189,32 @@ TEST_F(FindFileNearProgram_, AsksForTheModuleThatIsNamed) {
 }
 
 TEST_F(FindFileNearProgram_, TakesAFullPathAsItStandsAndNothingFurther) {
-  test::WriteFile("c:\\work\\a.rc", "");
-  EXPECT_EQ(Find("c:\\work\\a.rc"), "c:\\work\\a.rc");
-  EXPECT_EQ(Find("C:/Work/A.rc"), "C:/Work/A.rc");
+  test::WriteFile("c:\\home\\a.rc", "");
+  EXPECT_EQ(Find("c:\\home\\a.rc"), "c:\\home\\a.rc");
+  EXPECT_EQ(Find("C:/Home/A.rc"), "C:/Home/A.rc");
   EXPECT_EQ(Find("c:\\other\\a.rc"), "");
   EXPECT_EQ(Find("c:a.rc"), "");
-  EXPECT_EQ(Find("c:\\work\\"), "");
+  EXPECT_EQ(Find("c:\\home\\"), "");
 }
 
 TEST_F(FindFileNearProgram_, RefusesADirectoryWithoutADrive) {
-  test::WriteFile("c:\\work\\sub\\a.rc", "");
-  test::WriteFile("c:\\work\\a.rc", "");
+  test::WriteFile("c:\\home\\sub\\a.rc", "");
+  test::WriteFile("c:\\home\\a.rc", "");
   EXPECT_EQ(Find("sub\\a.rc"), "");
   EXPECT_EQ(Find(".\\a.rc"), "");
-  EXPECT_EQ(Find("\\work\\a.rc"), "");
+  EXPECT_EQ(Find("\\home\\a.rc"), "");
 }
 
 TEST_F(FindFileNearProgram_, FindsNothingForEmptyNames) {
   EXPECT_EQ(Find(nullptr), "");
   EXPECT_EQ(Find(""), "");
-  test::WriteFile("c:\\work\\.rc", "");
+  test::WriteFile("c:\\home\\.rc", "");
   EXPECT_EQ(Find(".rc"), "");
 }
 
 TEST_F(FindFileNearProgram_, CutsToTheBuffer) {
-  test::WriteFile("c:\\work\\a.rc", "");
-  test::ExpectCutToFit("c:\\work\\a.rc",
+  test::WriteFile("c:\\home\\a.rc", "");
+  test::ExpectCutToFit("c:\\home\\a.rc",
                        [](TextBuffer buffer) { FindFileNearProgram(nullptr, "a.rc", buffer); });
 }
 
@@ -231,29 +231,29 @@ TEST(QualifyFileName, PutsTogetherWhatIsMissing) {
     const char *name, *directory, *result;
   } cases[] = {
       // Drive and rooted directory: unchanged.
-      {"d:\\x\\a.rc", "c:\\work\\", "d:\\x\\a.rc"},
-      {"d:/a.rc", "c:\\work\\", "d:/a.rc"},
+      {"d:\\x\\a.rc", "c:\\home\\", "d:\\x\\a.rc"},
+      {"d:/a.rc", "c:\\home\\", "d:/a.rc"},
       // No drive, rooted directory: the drive.
-      {"\\x\\a.rc", "c:\\work\\", "c:\\x\\a.rc"},
-      {"/a.rc", "c:/work/", "c:/a.rc"},
+      {"\\x\\a.rc", "c:\\home\\", "c:\\x\\a.rc"},
+      {"/a.rc", "c:/home/", "c:/a.rc"},
       // No drive, relative directory: drive and directory.
-      {"x\\a.rc", "c:\\work\\", "c:\\work\\x\\a.rc"},
-      {"..\\a.rc", "c:\\work\\", "c:\\work\\..\\a.rc"},
+      {"x\\a.rc", "c:\\home\\", "c:\\home\\x\\a.rc"},
+      {"..\\a.rc", "c:\\home\\", "c:\\home\\..\\a.rc"},
       // Bare file name: drive and directory.
-      {"a.rc", "c:\\work\\", "c:\\work\\a.rc"},
+      {"a.rc", "c:\\home\\", "c:\\home\\a.rc"},
       {"a", "c:\\", "c:\\a"},
       {"a", "c:/", "c:/a"},
       // Where the rule doesn't apply.
-      {"", "c:\\work\\", ""},
-      {".rc", "c:\\work\\", ""},
-      {"x\\", "c:\\work\\", ""},
-      {"d:a.rc", "c:\\work\\", ""},
-      {"d:x\\a.rc", "c:\\work\\", ""},
+      {"", "c:\\home\\", ""},
+      {".rc", "c:\\home\\", ""},
+      {"x\\", "c:\\home\\", ""},
+      {"d:a.rc", "c:\\home\\", ""},
+      {"d:x\\a.rc", "c:\\home\\", ""},
       {"a.rc", "", ""},
-      {"a.rc", "\\work\\", ""},
-      {"a.rc", "c:work\\", ""},
-      {"a.rc", "c:\\work", ""},
-      {"a.rc", "c:\\work\\.x", ""},
+      {"a.rc", "\\home\\", ""},
+      {"a.rc", "c:home\\", ""},
+      {"a.rc", "c:\\home", ""},
+      {"a.rc", "c:\\home\\.x", ""},
       {"a.rc", "c:", ""},
       {nullptr, "c:\\", ""},
       {"a.rc", nullptr, ""},
@@ -270,13 +270,13 @@ TEST(QualifyFileName, PutsTogetherWhatIsMissing) {
 TEST(QualifyFileName, MayOverwriteItsName) {
   host::Path name;
   name.Assign("a.rc");
-  QualifyFileName(name.c_str(), "c:\\work\\", name);
-  EXPECT_EQ(name.view(), "c:\\work\\a.rc");
+  QualifyFileName(name.c_str(), "c:\\home\\", name);
+  EXPECT_EQ(name.view(), "c:\\home\\a.rc");
 }
 
 TEST(QualifyFileName, CutsToTheBuffer) {
-  test::ExpectCutToFit("c:\\work\\a.rc",
-                       [](TextBuffer buffer) { QualifyFileName("a.rc", "c:\\work\\", buffer); });
+  test::ExpectCutToFit("c:\\home\\a.rc",
+                       [](TextBuffer buffer) { QualifyFileName("a.rc", "c:\\home\\", buffer); });
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 namespace brelt::rc {
 namespace {
 
-constexpr const char* kPath = "c:\\work\\a.rc";
+constexpr const char* kPath = "c:\\home\\a.rc";
 
 struct Found {
   std::string text;
@@ -131,15 +131,15 @@ TEST_F(Located, NothingIsFoundWithoutANameOrAType) {
 }
 
 TEST_F(Located, TheFileMustBeAFullPathOrABareNameAndHoldSomething) {
-  test::WriteFile("c:\\work\\a.rc", kForms);
-  test::WriteFile("c:\\work\\sub\\a.rc", kForms);
-  test::WriteFile("c:\\work\\empty.rc", "");
+  test::WriteFile("c:\\home\\a.rc", kForms);
+  test::WriteFile("c:\\home\\sub\\a.rc", kForms);
+  test::WriteFile("c:\\home\\empty.rc", "");
   const struct {
     const char* file;
     bool found;
-  } cases[] = {{"c:\\work\\a.rc", true}, {"c:/work/A.RC", true}, {"a.rc", true},     {"sub\\a.rc", false},
+  } cases[] = {{"c:\\home\\a.rc", true}, {"c:/home/A.RC", true}, {"a.rc", true},     {"sub\\a.rc", false},
                {"\\work\\a.rc", false},  {"c:a.rc", false},      {"", false},        {nullptr, false},
-               {"missing.rc", false},    {"empty.rc", false},    {"c:\\work", false}};
+               {"missing.rc", false},    {"empty.rc", false},    {"c:\\home", false}};
   for (const auto& expected : cases) {
     SCOPED_TRACE(View(expected.file));
     FixedText<999> out("soil");
@@ -152,13 +152,13 @@ TEST_F(Located, TheFileMustBeAFullPathOrABareNameAndHoldSomething) {
 
 TEST_F(Located, TellsASearchThatFoundNothingFromOneThatCouldNotReadTheFile) {
   test::WriteFile(kPath, kForms);
-  test::WriteFile("c:\\work\\empty.rc", "");
+  test::WriteFile("c:\\home\\empty.rc", "");
   LineRange lines;
-  for (const char* whole : {kPath, "c:\\work\\empty.rc", "sub\\a.rc"}) {
+  for (const char* whole : {kPath, "c:\\home\\empty.rc", "sub\\a.rc"}) {
     LocateResource(whole, "NOWHERE", "DIALOG", {}, &lines);
     EXPECT_FALSE(lines.broken) << whole;
   }
-  LocateResource("c:\\work\\none.rc", "NOWHERE", "DIALOG", {}, &lines);
+  LocateResource("c:\\home\\none.rc", "NOWHERE", "DIALOG", {}, &lines);
   EXPECT_TRUE(lines.broken);
   // Size, open and two reads; a failed close hurts nobody who only reads.
   for (int n = 0; n < 5; ++n) {

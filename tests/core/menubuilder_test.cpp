@@ -13,7 +13,7 @@
 namespace brelt::rc {
 namespace {
 
-constexpr const char* kPath = "c:\\work\\a.rc";
+constexpr const char* kPath = "c:\\home\\a.rc";
 
 struct Built {
   std::string menu;
@@ -237,7 +237,7 @@ TEST_F(MenuBuilderTest, EachFileOperationThatFailsIsAMissingFileOrMenu) {
         break;
       }
       // The size twice, opening and reading; a failed close hurts nobody who only reads.
-      const char* message = n == 0  ? "The file <c:\\work\\a.rc> does not exist"
+      const char* message = n == 0  ? "The file <c:\\home\\a.rc> does not exist"
                             : n < 4 ? "Menu <MAIN>, cannot be found in resource file"
                                     : "";
       EXPECT_EQ(built.message, message);

@@ -11,7 +11,7 @@
 namespace brelt::rc {
 namespace {
 
-constexpr const char* kPath = "c:\\work\\a.rc";
+constexpr const char* kPath = "c:\\home\\a.rc";
 
 struct Loaded {
   int count;
@@ -71,7 +71,7 @@ constexpr const char* kDialogInclude =
 
 TEST_F(LoadSymbols_, TheIncludeResourceOfAFullPathNamesAHeaderInTheSameDirectory) {
   test::SetCurrentDirectory("c:\\elsewhere");
-  test::WriteFile("c:\\work\\a.h", "#define BESIDE 2\n");
+  test::WriteFile("c:\\home\\a.h", "#define BESIDE 2\n");
   test::WriteFile("c:\\elsewhere\\a.h", "#define CURRENT 3\n");
   for (const char* file : {kTextInclude, kDialogInclude}) {
     test::WriteFile(kPath, file);
@@ -87,7 +87,7 @@ TEST_F(LoadSymbols_, TheIncludeResourceOfABareNameNamesAHeaderInTheCurrentDirect
   test::SetCurrentDirectory("c:\\elsewhere");
   test::WriteFile("c:\\elsewhere\\a.rc", kTextInclude);
   test::WriteFile("c:\\elsewhere\\a.h", "#define CURRENT 3\n");
-  test::WriteFile("c:\\work\\a.h", "#define BESIDE 2\n");
+  test::WriteFile("c:\\home\\a.h", "#define BESIDE 2\n");
   EXPECT_EQ(Load("a.rc").rows, "CURRENT 3 0\n");
 }
 
@@ -151,11 +151,11 @@ TEST_F(LoadSymbols_, ASymbolFileThatCannotBeReadIsToldWithTheHeadersName) {
        "\\a.h"},
       {"a.h", "The file <> should be a full path with a drive letter or just a filename", ""},
       {R"("")", "The file <> should be a full path with a drive letter or just a filename", ""},
-      {R"("missing.h\0")", "The file <c:\\work\\missing.h> does not exist", "missing.h"},
+      {R"("missing.h\0")", "The file <c:\\home\\missing.h> does not exist", "missing.h"},
       {R"("d:\\x\\missing.h\0")", "The file <d:\\x\\missing.h> does not exist", "d:\\x\\missing.h"},
-      {R"("dir\0")", "The file <c:\\work\\dir> does not exist", "dir"},
+      {R"("dir\0")", "The file <c:\\home\\dir> does not exist", "dir"},
   };
-  test::MakeDirectory("c:\\work\\dir");
+  test::MakeDirectory("c:\\home\\dir");
   for (const FailureCase& expected : cases) {
     SCOPED_TRACE(expected.include);
     test::WriteFile(kPath,
@@ -202,18 +202,18 @@ TEST_F(LoadSymbols_, AFileThatDoesNotOpenIsTold) {
   test::FailFileOperation(11);
   const Loaded loaded = Load(kPath);
   EXPECT_EQ(loaded.count, 0);
-  EXPECT_EQ(loaded.report.message.view(), "The file <c:\\work\\a.rc> could not be opened");
+  EXPECT_EQ(loaded.report.message.view(), "The file <c:\\home\\a.rc> could not be opened");
 }
 
 TEST_F(LoadSymbols_, AHeaderThatDoesNotOpenIsToldWithItsPath) {
   test::WriteFile(kPath, kTextInclude);
-  test::WriteFile("c:\\work\\a.h", "#define A 1\n");
+  test::WriteFile("c:\\home\\a.h", "#define A 1\n");
   // The search for the include resource takes four operations (size, open, read, close); then comes the
   // header's size.
   test::FailFileOperation(5);
   const Loaded loaded = Load(kPath);
   EXPECT_EQ(loaded.count, 0);
-  EXPECT_EQ(loaded.report.message.view(), "The file <c:\\work\\a.h> could not be opened");
+  EXPECT_EQ(loaded.report.message.view(), "The file <c:\\home\\a.h> could not be opened");
   EXPECT_EQ(loaded.report.includeName.view(), "a.h");
 }
 
@@ -486,7 +486,7 @@ TEST_F(LoadSymbols_, ASecondDialogOfANameCountsTheFirstAgain) {
 TEST_F(LoadSymbols_, UsesOfAHeadersWordsAreCountedInTheRcFile) {
   test::WriteFile(
       kPath, "1 TEXTINCLUDE\nBEGIN\n \"a.h\\0\"\nEND\nF DIALOG 0,0,1,1\nBEGIN\nLTEXT \"\",A,1,1,1,1\nEND\n");
-  test::WriteFile("c:\\work\\a.h", "#define A 1\n#define B 2\n");
+  test::WriteFile("c:\\home\\a.h", "#define A 1\n#define B 2\n");
   EXPECT_EQ(Load(kPath, nullptr, 32).rows, "A 1 1\nB 2 0\n");
 }
 
@@ -554,7 +554,7 @@ TEST_F(LoadSymbols_, TheIncludeIsToldEvenWithoutMemory) {
 
 TEST_F(LoadSymbols_, EachFileOperationThatFailsLeavesNothingOpen) {
   test::WriteFile(kPath, std::string(kForms) + kTextInclude);
-  test::WriteFile("c:\\work\\a.h", "#define IDC_ONE 1\n#define IDC_TWO 2\n");
+  test::WriteFile("c:\\home\\a.h", "#define IDC_ONE 1\n#define IDC_TWO 2\n");
   for (const bool stay : {false, true}) {
     for (int n = 0;; ++n) {
       SCOPED_TRACE(n);
@@ -573,7 +573,7 @@ TEST_F(LoadSymbols_, EachFileOperationThatFailsLeavesNothingOpen) {
 // Whoever rewrites a file by its symbols would drop those that a failed read has left out.
 TEST_F(LoadSymbols_, NoReadThatFailsLeavesOutARowInSilence) {
   test::WriteFile(kPath, std::string(kForms) + kTextInclude);
-  test::WriteFile("c:\\work\\a.h", "#define IDC_ONE 1\n#define IDC_TWO 2\n");
+  test::WriteFile("c:\\home\\a.h", "#define IDC_ONE 1\n#define IDC_TWO 2\n");
   for (const char* dialog : {"", "FORM"}) {
     test::FailFileOperation(-1);
     const Loaded whole = Load(kPath, dialog, 49);

@@ -18,7 +18,7 @@ namespace {
 using test::kRc;
 using Texts = std::vector<std::string>;
 
-constexpr const char* kHeader = "c:\\work\\resource.h";
+constexpr const char* kHeader = "c:\\home\\resource.h";
 constexpr const char* kReplacement = " MENU\nBEGIN\n    MENUITEM \"x\",ID_X\nEND\n";
 constexpr const char* kAddition = "Added ICON \"added.ico\"\nEND\n";
 
@@ -366,7 +366,7 @@ TEST(SurgeryCorpus, OtherPeoplesFilesComeThroughEachOperationAsAgreed) {
 TEST(SurgeryCorpus, OfAFileThatIsMissing) {
   test::ResetHost();
   EXPECT_EQ(test::Delete("Main"), "");
-  EXPECT_EQ(test::Rename("Main", "Other"), "Resource file <c:\\work\\a.rc> is invalid or missing.");
+  EXPECT_EQ(test::Rename("Main", "Other"), "Resource file <c:\\home\\a.rc> is invalid or missing.");
   EXPECT_TRUE(test::ListFiles().empty());
   EXPECT_EQ(test::WriteText(kAddition), "");
   EXPECT_EQ(test::ReadFile(kRc), test::Crlf(std::string(kAddition) + "\n"));

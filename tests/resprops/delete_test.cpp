@@ -128,15 +128,15 @@ TEST(ResourceDelete, OfTheOnlyResourceLeavesAnEmptyFileAndTheOldOneBesideIt) {
   EXPECT_EQ(Delete("M"), "");
   EXPECT_TRUE(test::FileExists(kRc));
   EXPECT_EQ(test::ReadFile(kRc), "");
-  EXPECT_EQ(test::ReadFile("c:\\work\\1.tmp"), text);
+  EXPECT_EQ(test::ReadFile("c:\\home\\1.tmp"), text);
 }
 
 TEST(ResourceDelete, TellsWhyItCannot) {
   test::SetFile("A ICON a.ico\n");
   test::SetReadOnly(kRc, true);
-  EXPECT_EQ(Delete("A"), "Cannot modify the following read-only file: c:\\work\\a.rc");
-  EXPECT_EQ(Delete("A", "a.rc"), "Cannot modify the following read-only file: c:\\work\\a.rc");
-  EXPECT_EQ(Delete("NONE"), "Cannot modify the following read-only file: c:\\work\\a.rc");
+  EXPECT_EQ(Delete("A"), "Cannot modify the following read-only file: c:\\home\\a.rc");
+  EXPECT_EQ(Delete("A", "a.rc"), "Cannot modify the following read-only file: c:\\home\\a.rc");
+  EXPECT_EQ(Delete("NONE"), "Cannot modify the following read-only file: c:\\home\\a.rc");
   EXPECT_EQ(test::ReadFile(kRc), "A ICON a.ico\n");
   for (const char* name : {"sub\\a.rc", "c:a.rc", "\\work\\a.rc"}) {
     EXPECT_EQ(Delete("A", name), "The file <" + std::string(name) +
@@ -156,14 +156,14 @@ TEST(ResourceDelete, ShowsTheNameAsItIsWhereThereIsNoCurrentDirectory) {
 
 TEST(ResourceDelete, SaysNothingAboutWhatIsNotThere) {
   test::SetFile("A ICON a.ico\n");
-  test::MakeDirectory("c:\\work\\folder.rc");
+  test::MakeDirectory("c:\\home\\folder.rc");
   EXPECT_EQ(Delete("NONE"), "");
   EXPECT_EQ(Delete(""), "");
   EXPECT_EQ(Delete("", "sub\\a.rc"), "");
   EXPECT_EQ(Delete("*"), "");
   EXPECT_EQ(Delete("A", "none.rc"), "");
   EXPECT_EQ(Delete("A", "folder.rc"), "");
-  EXPECT_EQ(Delete("A", "c:\\\\work\\a.rc"), "");
+  EXPECT_EQ(Delete("A", "c:\\\\home\\a.rc"), "");
   EXPECT_EQ(test::MessageOf([](rc::TextBuffer error) { ResourceDelete(kRc, nullptr, error); }), "");
   ResourceDelete(kRc, "A", {});
   // Not even that there is no memory for it.

@@ -10,7 +10,7 @@ namespace {
 
 using test::kRc;
 
-constexpr const char* kStranger = "c:\\work\\1.tmp";
+constexpr const char* kStranger = "c:\\home\\1.tmp";
 
 struct Scenario {
   const char* name;
@@ -86,7 +86,7 @@ void Prepare(const Scenario& scenario) {
   test::ResetHost();
   if (scenario.before != kNone) test::WriteFile(kRc, scenario.before);
   test::WriteFile(kStranger, "somebody's");
-  test::WriteFile("c:\\work\\resource.h", "#define OK 100\n#define KEPT 7\n");
+  test::WriteFile("c:\\home\\resource.h", "#define OK 100\n#define KEPT 7\n");
 }
 
 // The whole texts that the file goes through when nothing fails.
@@ -202,7 +202,7 @@ TEST(Faults, AFileOperationThatFailsLeavesTheOldTextOrTheNewOne) {
       const std::string text = test::ReadFile(kRc);
       told += message != usual ? 1 : 0;
       // Beside half a file the old one is whole, under its temporary name.
-      if (text == before || text == after || test::ReadFile("c:\\work\\1.tmp") == before) continue;
+      if (text == before || text == after || test::ReadFile("c:\\home\\1.tmp") == before) continue;
       // A file whose size can't be had at first counts as none, and nothing is put between it and what comes.
       EXPECT_EQ(text, before + test::Crlf("New ICON new.ico\n\n"));
     }

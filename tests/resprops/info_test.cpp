@@ -85,7 +85,7 @@ TEST(ResourceInfo, TellsWhyItCannotInAFixedOrder) {
       {"sub\\a.rc", "1", "x",
        "! RC file <sub\\a.rc> should be a full path with a drive letter or just a filename"},
       {"none.rc", "1", "x", "! RC file <none.rc> does not exist"},
-      {"c:\\work\\folder", "*", "*", "! RC file <c:\\work\\folder> does not exist"},
+      {"c:\\home\\folder", "*", "*", "! RC file <c:\\home\\folder> does not exist"},
       {"a.rc", "1", "x", "! <1> is an unknown resource type"},
       {"a.rc", "**", "x", "! <**> is an unknown resource type"},
       {"a.rc", " Dialog", "x", "! < Dialog> is an unknown resource type"},
@@ -96,7 +96,7 @@ TEST(ResourceInfo, TellsWhyItCannotInAFixedOrder) {
       {"a.rc", "icon", "Ii", "! icon <Ii> was not in the RC file"},
   };
   test::SetFile(kFile);
-  test::MakeDirectory("c:\\work\\folder");
+  test::MakeDirectory("c:\\home\\folder");
   for (const Case& expected : cases) {
     SCOPED_TRACE(expected.message);
     EXPECT_EQ(Ask(expected.file, expected.type, expected.name), expected.message);
@@ -110,7 +110,7 @@ TEST(ResourceInfo, TellsWhyItCannotInAFixedOrder) {
 
 TEST(ResourceInfo, PassesOnWhatIsWrongWithTheSymbols) {
   test::SetFile("1 TEXTINCLUDE\nBEGIN\n\"none.h\\0\"\nEND\n");
-  EXPECT_EQ(Ask(kRc, "Controls", "*"), "! The file <c:\\work\\none.h> does not exist");
+  EXPECT_EQ(Ask(kRc, "Controls", "*"), "! The file <c:\\home\\none.h> does not exist");
 }
 
 TEST(ResourceInfo, TakesATextThatFillsTheOutputForACutOne) {
@@ -188,9 +188,9 @@ TEST(ResourceInfo, GivesAWholeAnswerOrAMessageWhateverFileOperationFails) {
       SCOPED_TRACE(n);
       test::FailFileOperation(n);
       const std::string answer = Ask(kRc, asked.type, asked.name);
-      EXPECT_TRUE(answer == whole || answer == "! RC file <c:\\work\\a.rc> does not exist" ||
-                  answer == "! The file <c:\\work\\a.rc> does not exist" ||
-                  answer == "! The file <c:\\work\\a.rc> could not be opened")
+      EXPECT_TRUE(answer == whole || answer == "! RC file <c:\\home\\a.rc> does not exist" ||
+                  answer == "! The file <c:\\home\\a.rc> does not exist" ||
+                  answer == "! The file <c:\\home\\a.rc> could not be opened")
           << answer;
       EXPECT_EQ(test::OpenFiles(), 0);
     }

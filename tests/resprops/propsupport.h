@@ -10,7 +10,7 @@
 
 namespace brelt::test {
 
-inline const char* const kRcFile = "c:\\work\\forms.rc";
+inline const char* const kRcFile = "c:\\home\\forms.rc";
 
 // A row in one line, a comma and a blank for each line feed but the last.
 inline std::string Flat(const std::string& row) {

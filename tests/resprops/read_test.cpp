@@ -589,28 +589,28 @@ TEST_F(ResourceReadArguments, AFailureCountsAlsoWhereTheBufferIsTooSmallToShowIt
 }
 
 TEST_F(ResourceReadArguments, TheFileMustBeAFullPathOrABareName) {
-  const char* refused[] = {"sub\\forms.rc", "\\work\\forms.rc", "c:forms.rc", "c:\\work\\", ".\\forms.rc"};
+  const char* refused[] = {"sub\\forms.rc", "\\work\\forms.rc", "c:forms.rc", "c:\\home\\", ".\\forms.rc"};
   for (const char* name : refused) {
     EXPECT_EQ(
         MessageFor(rows_, {.rcFile = name}),
         "The file <" + std::string(name) + "> should be a full path with a drive letter or just a filename");
     EXPECT_TRUE(rows_.IsZero(0));
   }
-  for (const char* name : {"forms.rc", "FORMS.RC", "c:\\work\\forms.rc", "C:/work/forms.rc"}) {
+  for (const char* name : {"forms.rc", "FORMS.RC", "c:\\home\\forms.rc", "C:/home/forms.rc"}) {
     EXPECT_EQ(MessageFor(rows_, {.rcFile = name}), "") << name;
     EXPECT_EQ(rows_.Text(0).substr(0, 12), "ALIGNMENT=0\n");
   }
 }
 
 TEST_F(ResourceReadArguments, AFileThatIsNoneIsNamedInFull) {
-  test::MakeDirectory("c:\\work\\folder.rc");
-  test::WriteFile("c:\\work\\empty.rc", "");
+  test::MakeDirectory("c:\\home\\folder.rc");
+  test::WriteFile("c:\\home\\empty.rc", "");
   EXPECT_EQ(MessageFor(rows_, {.rcFile = "none.rc"}),
-            "Resource file <c:\\work\\none.rc> is invalid or missing.");
+            "Resource file <c:\\home\\none.rc> is invalid or missing.");
   EXPECT_EQ(MessageFor(rows_, {.rcFile = "folder.rc"}),
-            "Resource file <c:\\work\\folder.rc> is invalid or missing.");
-  EXPECT_EQ(MessageFor(rows_, {.rcFile = "c:\\\\work\\forms.rc"}),
-            "Resource file <c:\\\\work\\forms.rc> is invalid or missing.");
+            "Resource file <c:\\home\\folder.rc> is invalid or missing.");
+  EXPECT_EQ(MessageFor(rows_, {.rcFile = "c:\\\\home\\forms.rc"}),
+            "Resource file <c:\\\\home\\forms.rc> is invalid or missing.");
   EXPECT_EQ(MessageFor(rows_, {.rcFile = "empty.rc"}),
             "Resource file does not contain DIALOG or MENU resource named: Form");
 }
@@ -651,7 +651,7 @@ TEST_F(ResourceReadArguments, EachFileOperationThatFailsIsToldUnlessItWasOnlyFor
     test::FailFileOperation(n);
     const Texts rows = ReadRows("Form", 200);
     EXPECT_TRUE(rows == whole || rows == withoutIcon ||
-                rows == Texts{"! Resource file <c:\\work\\forms.rc> is invalid or missing."});
+                rows == Texts{"! Resource file <c:\\home\\forms.rc> is invalid or missing."});
     EXPECT_EQ(test::LiveAllocations(), 0);
     EXPECT_EQ(test::OpenFiles(), 0);
   }

@@ -70,10 +70,10 @@ TEST(ResourceRename, TellsWhyItCannotInAFixedOrder) {
   EXPECT_EQ(test::MessageOf([](rc::TextBuffer error) { ResourceRename(kRc, "A", nullptr, error); }),
             "Cannot rename <A>, the new name was not given.");
   test::SetReadOnly(kRc, true);
-  EXPECT_EQ(Rename("", ""), "Cannot modify the following read-only file: c:\\work\\a.rc");
-  EXPECT_EQ(Rename("", "", "none.rc"), "Resource file <c:\\work\\none.rc> is invalid or missing.");
-  test::MakeDirectory("c:\\work\\folder.rc");
-  EXPECT_EQ(Rename("A", "C", "folder.rc"), "Resource file <c:\\work\\folder.rc> is invalid or missing.");
+  EXPECT_EQ(Rename("", ""), "Cannot modify the following read-only file: c:\\home\\a.rc");
+  EXPECT_EQ(Rename("", "", "none.rc"), "Resource file <c:\\home\\none.rc> is invalid or missing.");
+  test::MakeDirectory("c:\\home\\folder.rc");
+  EXPECT_EQ(Rename("A", "C", "folder.rc"), "Resource file <c:\\home\\folder.rc> is invalid or missing.");
   EXPECT_EQ(Rename("", "", "sub\\a.rc"),
             "The file <sub\\a.rc> should be a full path with a drive letter or just a filename");
   EXPECT_EQ(Rename("", "", nullptr),

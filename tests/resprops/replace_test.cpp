@@ -83,8 +83,8 @@ TEST(ResourceWriteText, IsRefusedWhereAMarkCannotBeTakenOff) {
     const std::size_t added = text.find("N ICON");
     unseen += added != std::string::npos && text.find('\x1A') < added ? 1 : 0;
     if (text != before || message.empty()) continue;
-    EXPECT_TRUE(message == "Cannot modify the following read-only file: c:\\work\\a.rc" ||
-                message == "The file <c:\\work\\a.rc> could not be opened")
+    EXPECT_TRUE(message == "Cannot modify the following read-only file: c:\\home\\a.rc" ||
+                message == "The file <c:\\home\\a.rc> could not be opened")
         << message;
     ++refused;
   }
@@ -105,7 +105,7 @@ TEST(ResourceWriteText, MakesTheFile) {
   EXPECT_EQ(WriteText("N ICON n.ico\n"), "");
   EXPECT_EQ(test::ReadFile(kRc), Crlf("N ICON n.ico\n\n"));
   EXPECT_EQ(WriteText("N ICON n.ico\n", "b.rc"), "");
-  EXPECT_EQ(test::ReadFile("c:\\work\\b.rc"), Crlf("N ICON n.ico\n\n"));
+  EXPECT_EQ(test::ReadFile("c:\\home\\b.rc"), Crlf("N ICON n.ico\n\n"));
 }
 
 TEST(ResourceWriteText, AppendsOnlyLinesThatEndInALineFeedAndKeepsCarriageReturns) {
@@ -145,8 +145,8 @@ TEST(ResourceWriteText, TellsWhyItCannotInAFixedOrder) {
       {kRc, "A\n", kNoName},
       {kRc, "_A ICON a\n", kNoName},
       {kRc, "A _ICON a\n", kNoName},
-      {kRc, "A ICON a\n", "Cannot modify the following read-only file: c:\\work\\a.rc"},
-      {"a.rc", "B ICON a\n", "Cannot modify the following read-only file: c:\\work\\a.rc"},
+      {kRc, "A ICON a\n", "Cannot modify the following read-only file: c:\\home\\a.rc"},
+      {"a.rc", "B ICON a\n", "Cannot modify the following read-only file: c:\\home\\a.rc"},
   };
   test::SetFile("A ICON a.ico\n");
   test::SetReadOnly(kRc, true);
@@ -188,7 +188,7 @@ TEST(ReplaceOrAppendResource, TellsWhyItCannotInAFixedOrder) {
       {"A", "A ICON a\n", nullptr, "File name <> is not a full path."},
       {"A", "A ICON a\n", "", "File name <> is not a full path."},
       {"A", "A ICON a\n", "a.rc", "File name <a.rc> is not a full path."},
-      {"A", "A ICON a\n", kRc, "Cannot modify the following read-only file: c:\\work\\a.rc"},
+      {"A", "A ICON a\n", kRc, "Cannot modify the following read-only file: c:\\home\\a.rc"},
   };
   test::SetFile("A ICON a.ico\n");
   test::SetReadOnly(kRc, true);
@@ -206,13 +206,13 @@ TEST(ReplaceOrAppendResource, TellsWhyItCannotInAFixedOrder) {
 
 TEST(Rewrite, UsesTheFirstFreeNumberAndLeavesOthersAlone) {
   test::SetFile("A ICON a.ico\nB ICON b.ico\n");
-  test::WriteFile("c:\\work\\1.tmp", "somebody's");
-  test::WriteFile("c:\\work\\3.tmp", "somebody else's");
-  test::MakeDirectory("c:\\work\\2.tmp");
+  test::WriteFile("c:\\home\\1.tmp", "somebody's");
+  test::WriteFile("c:\\home\\3.tmp", "somebody else's");
+  test::MakeDirectory("c:\\home\\2.tmp");
   EXPECT_EQ(WriteText("A ICON c.ico\n"), "");
   EXPECT_EQ(test::ReadFile(kRc), Crlf("A ICON c.ico\nB ICON b.ico\n"));
-  EXPECT_EQ(test::ReadFile("c:\\work\\1.tmp"), "somebody's");
-  EXPECT_EQ(test::ReadFile("c:\\work\\3.tmp"), "somebody else's");
+  EXPECT_EQ(test::ReadFile("c:\\home\\1.tmp"), "somebody's");
+  EXPECT_EQ(test::ReadFile("c:\\home\\3.tmp"), "somebody else's");
   EXPECT_EQ(test::ListFiles().size(), 4U);
 }
 
@@ -263,8 +263,8 @@ TEST(Rewrite, TakesLargeFilesInBlocks) {
 TEST(Rewrite, TellsThatAFileCannotBeChangedWhereItCannotBeMoved) {
   // No name is left: the folder takes no new file.
   test::SetFile("A ICON a.ico\n");
-  for (int i = 1; i <= 40; ++i) test::MakeDirectory("c:\\work\\" + std::to_string(i) + ".tmp");
-  const std::string message = "Cannot modify the following read-only file: c:\\work\\a.rc";
+  for (int i = 1; i <= 40; ++i) test::MakeDirectory("c:\\home\\" + std::to_string(i) + ".tmp");
+  const std::string message = "Cannot modify the following read-only file: c:\\home\\a.rc";
   EXPECT_EQ(WriteText("A ICON b.ico\n"), message);
   EXPECT_EQ(test::Rename("A", "B"), message);
   EXPECT_EQ(test::Delete("A"), message);

@@ -12,7 +12,7 @@
 
 namespace brelt::test {
 
-inline const char* const kRc = "c:\\work\\a.rc";
+inline const char* const kRc = "c:\\home\\a.rc";
 
 // The text as it stands in a file that was written in text mode.
 inline std::string Crlf(const std::string& text) {

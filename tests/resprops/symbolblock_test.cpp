@@ -134,7 +134,7 @@ TEST(RewriteSymbols, DoesNothingWhereItCannotAndSaysNothing) {
   test::SetFile(text);
   test::SetReadOnly(kRc, true);
   const std::vector<rc::SymbolRecord> symbols = SomeSymbols();
-  for (const char* path : {kRc, "a.rc", "c:\\work\\none.rc", "", (const char*)nullptr}) {
+  for (const char* path : {kRc, "a.rc", "c:\\home\\none.rc", "", (const char*)nullptr}) {
     RewriteSymbols(path, symbols, {}, "");
   }
   EXPECT_EQ(test::ReadFile(kRc), text);

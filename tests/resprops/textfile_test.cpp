@@ -8,7 +8,7 @@
 namespace brelt::resprops {
 namespace {
 
-constexpr const char* kPath = "c:\\work\\a.txt";
+constexpr const char* kPath = "c:\\home\\a.txt";
 
 TEST(TextFile, WritesNothingBehindABlockThatIsMissing) {
   const std::string text(200000, '-');

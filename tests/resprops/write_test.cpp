@@ -242,19 +242,19 @@ TEST(ResourceWrite, DrawsTheSymbolsOfAHeaderIntoTheFile) {
       "TEXTINCLUDE\nBEGIN\n\"resource.h\\0\"\nEND\n\n"
       "// tail\n";
   test::SetFile(before);
-  test::WriteFile("c:\\work\\resource.h", "#define A 7\n#define UNUSED 8\n");
+  test::WriteFile("c:\\home\\resource.h", "#define A 7\n#define UNUSED 8\n");
   EXPECT_EQ(Write({kWindow, Label("A"), Label("B")}), "");
   EXPECT_EQ(test::ReadFile(kRc),
             Crlf("#define A 7\n#define B 100\n\n#include \"resource.h\"\n#include \"other.h\"\n\nX ICON "
                  "x.ico\n\n// tail\n\n" +
                  std::string(kWindowText) + LabelText("A") + LabelText("B") + "END\n\n"));
-  EXPECT_EQ(test::ReadFile("c:\\work\\resource.h"), "#define A 7\n#define UNUSED 8\n");
+  EXPECT_EQ(test::ReadFile("c:\\home\\resource.h"), "#define A 7\n#define UNUSED 8\n");
 }
 
 TEST(ResourceWrite, LeavesTheSymbolsAloneWhereTheirHeaderIsMissing) {
   const std::string head = "#define A 7\n\n1 TEXTINCLUDE\nBEGIN\n\"none.h\\0\"\nEND\n";
   test::SetFile(head);
-  EXPECT_EQ(Write({kWindow, Label("A")}), "The file <c:\\work\\none.h> does not exist");
+  EXPECT_EQ(Write({kWindow, Label("A")}), "The file <c:\\home\\none.h> does not exist");
   EXPECT_EQ(test::ReadFile(kRc), Crlf(head + "\n" + kWindowText + LabelText("A") + "END\n\n")
                                      .substr(0)
                                      .replace(0, Crlf(head).size(), head));
@@ -416,7 +416,7 @@ TEST_F(ResourceWriteArguments, ARowOfOneByteIsEmpty) {
 TEST(ResourceWrite, FailsEachStepOnAReadOnlyFileAndLeavesItAsItWas) {
   test::SetFile("X ICON x.ico\n");
   test::SetReadOnly(kRc, true);
-  EXPECT_EQ(Write(kDemo, kDemoMenu), "Cannot modify the following read-only file: c:\\work\\a.rc");
+  EXPECT_EQ(Write(kDemo, kDemoMenu), "Cannot modify the following read-only file: c:\\home\\a.rc");
   EXPECT_EQ(test::ReadFile(kRc), "X ICON x.ico\n");
   EXPECT_EQ(test::ListFiles().size(), 1U);
 }
@@ -424,7 +424,7 @@ TEST(ResourceWrite, FailsEachStepOnAReadOnlyFileAndLeavesItAsItWas) {
 TEST(ResourceWrite, TellsThatAFolderIsNoFile) {
   test::ResetHost();
   test::MakeDirectory(kRc);
-  EXPECT_EQ(Write(kDemo, kDemoMenu), "The file <c:\\work\\a.rc> does not exist");
+  EXPECT_EQ(Write(kDemo, kDemoMenu), "The file <c:\\home\\a.rc> does not exist");
   EXPECT_EQ(test::ListFiles().size(), 1U);
 }
 

@@ -53,7 +53,7 @@ Range MakeRange(const void* memory, std::size_t bytes) {
 
 struct State {
   std::map<std::string, std::shared_ptr<Node>> files;
-  std::string currentDirectory = "c:\\work";
+  std::string currentDirectory = "c:\\home";
   std::string programPath = "c:\\program\\test.exe";
   std::map<const void*, std::string> modulePaths;
   Failure allocation;

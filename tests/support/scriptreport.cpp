@@ -16,7 +16,7 @@
 namespace brelt::test {
 namespace {
 
-constexpr const char* kPath = "c:\\work\\script.rc";
+constexpr const char* kPath = "c:\\home\\script.rc";
 
 std::string Indented(const std::string& lines) {
   std::istringstream in(lines);

@@ -15,11 +15,6 @@ class CaptionTest : public PropertyTest {
     EXPECT_EQ(GetCaption(name, id, text, sizeof text), RTX_OK);
     return text;
   }
-  static std::string TextOf(HWND window) {
-    char text[2048] = "";
-    GetWindowTextA(window, text, sizeof text);
-    return text;
-  }
 };
 
 TEST_F(CaptionTest, IsTheTextThatTheFormGives) {

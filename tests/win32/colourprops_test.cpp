@@ -95,7 +95,7 @@ TEST_F(ColourTest, OfThePrinterIsZeroWithoutAJob) {
 TEST_F(ColourTest, OfThePrinterIsMeantAlsoWhereAWindowHasItsName) {
   const EditFrame frame(kPlainFrameClass, "Printer");
   EXPECT_EQ(SetBackColour("Printer", 0, 5), RTX_OK);
-  EXPECT_EQ(reinterpret_cast<WindowRow*>(GetWindowLongA(frame.get(), 0))->backColour, 0u);
+  EXPECT_EQ(RecordOf(frame.get())->backColour, 0u);
 }
 
 // ---- BorderStyle ----

@@ -4,23 +4,13 @@
 #include <string>
 #include <vector>
 
-#include "frame/winobject.h"
 #include "tests/win32/support/forms.h"
 #include "tests/win32/support/imports.h"
+#include "tests/win32/support/record.h"
 #include "tests/win32/support/spy.h"
 
 namespace brelt::test {
 namespace {
-
-const WindowRow* RecordOf(HWND window) {
-  return reinterpret_cast<const WindowRow*>(GetWindowLongA(window, 0));
-}
-
-std::string TextOf(HWND window) {
-  char text[512] = "";
-  GetWindowTextA(window, text, sizeof text);
-  return text;
-}
 
 class ControlsTest : public FormTest {
  protected:

@@ -73,6 +73,15 @@ TEST(ModuleEntry, RegistersNoClassOfItsOwn) {
   }
 }
 
+// Their classes may be there by way of another module, so that the import is looked for, too. It is called
+// once, when the DLL comes.
+TEST(ModuleEntry, BringsTheCommonControls) {
+  const LoadedDll dll;
+  EXPECT_TRUE(ClassExists(nullptr, "msctls_trackbar32"));
+  const ReplacedImport import("InitCommonControls", nullptr);
+  EXPECT_NE(import.original(), nullptr);
+}
+
 TEST(ModuleTeardown, UnregistersTheClassThatWasUsed) {
   LoadedDll dll;
   const HWND window = dll.LoadForm();
@@ -104,6 +113,25 @@ TEST(ModuleTeardown, StartsASecondLoadingWithItsFirstSettings) {
     EXPECT_EQ(base, 1);
     dll.Find<SetFunction>("SetOptionBase")(0);
   }
+}
+
+// There are little more than a thousand indexes in a process.
+TEST(ModuleTeardown, GivesItsThreadLocalStorageBack) {
+  const auto countFree = [] {
+    std::vector<DWORD> free;
+    for (DWORD index = TlsAlloc(); index != TLS_OUT_OF_INDEXES; index = TlsAlloc()) free.push_back(index);
+    for (const DWORD index : free) TlsFree(index);
+    return free.size();
+  };
+  const auto loadAndFree = [] {
+    const LoadedDll dll;
+    EXPECT_TRUE(DestroyWindow(dll.LoadForm()));
+  };
+  loadAndFree();
+  const std::size_t before = countFree();
+  EXPECT_GT(before, 0u);
+  for (int i = 0; i < 5; ++i) loadAndFree();
+  EXPECT_EQ(countFree(), before);
 }
 
 std::vector<std::string> asked;

@@ -13,33 +13,6 @@
 namespace brelt::test {
 namespace {
 
-// What the four calls tell of a font.
-struct Font {
-  std::string face;
-  int32_t size;
-  int bold;
-  int italic;
-
-  bool operator==(const Font&) const = default;
-};
-std::ostream& operator<<(std::ostream& out, const Font& font) {
-  return out << '"' << font.face << "\" " << font.size << (font.bold != 0 ? " bold" : "")
-             << (font.italic != 0 ? " italic" : "");
-}
-const Font kNoFont = {"", 0, 0, 0};
-
-Font Read(HWND window) {
-  char face[64] = "unset";
-  int32_t size = -77;
-  uint8_t bold = 77;
-  uint8_t italic = 77;
-  EXPECT_EQ(GetFontName(window, face, sizeof face), RTX_OK);
-  EXPECT_EQ(GetFontSize(window, &size), RTX_OK);
-  EXPECT_EQ(GetFontBold(window, &bold), RTX_OK);
-  EXPECT_EQ(GetFontItalic(window, &italic), RTX_OK);
-  return {face, size, bold, italic};
-}
-
 LOGFONTA Describe(HGDIOBJ font) {
   LOGFONTA description = {};
   GetObjectA(font, sizeof description, &description);
@@ -66,18 +39,18 @@ HFONT MakeFont(const char* face, int height, int weight, bool italic) {
 struct Change {
   const char* what;
   std::function<int32_t(HWND)> make;
-  std::function<void(Font&)> model;
+  std::function<void(FontLook&)> model;
 };
 const std::vector<Change>& Changes() {
   static const std::vector<Change> changes = {
-      {"name", [](HWND w) { return SetFontName(w, "Courier"); }, [](Font& f) { f.face = "Courier"; }},
-      {"size", [](HWND w) { return SetFontSize(w, 14); }, [](Font& f) { f.size = 14; }},
-      {"bold", [](HWND w) { return SetFontBold(w, 1); }, [](Font& f) { f.bold = 1; }},
-      {"italic", [](HWND w) { return SetFontItalic(w, 5); }, [](Font& f) { f.italic = 1; }},
-      {"not bold", [](HWND w) { return SetFontBold(w, 0); }, [](Font& f) { f.bold = 0; }},
-      {"size again", [](HWND w) { return SetFontSize(w, 9); }, [](Font& f) { f.size = 9; }},
-      {"name again", [](HWND w) { return SetFontName(w, "Tahoma"); }, [](Font& f) { f.face = "Tahoma"; }},
-      {"upright", [](HWND w) { return SetFontItalic(w, 0); }, [](Font& f) { f.italic = 0; }},
+      {"name", [](HWND w) { return SetFontName(w, "Courier"); }, [](FontLook& f) { f.face = "Courier"; }},
+      {"size", [](HWND w) { return SetFontSize(w, 14); }, [](FontLook& f) { f.size = 14; }},
+      {"bold", [](HWND w) { return SetFontBold(w, 1); }, [](FontLook& f) { f.bold = 1; }},
+      {"italic", [](HWND w) { return SetFontItalic(w, 5); }, [](FontLook& f) { f.italic = 1; }},
+      {"not bold", [](HWND w) { return SetFontBold(w, 0); }, [](FontLook& f) { f.bold = 0; }},
+      {"size again", [](HWND w) { return SetFontSize(w, 9); }, [](FontLook& f) { f.size = 9; }},
+      {"name again", [](HWND w) { return SetFontName(w, "Tahoma"); }, [](FontLook& f) { f.face = "Tahoma"; }},
+      {"upright", [](HWND w) { return SetFontItalic(w, 0); }, [](FontLook& f) { f.italic = 0; }},
   };
   return changes;
 }
@@ -109,11 +82,11 @@ class FontTest : public PropertyTest {
 
 TEST_F(FontTest, OfAFormIsTheOneThatIsDrawnWithAndOfOthersTheirOwn) {
   SendMessageA(form(), XM_SETDRAWFONT, reinterpret_cast<WPARAM>(MakeFont("Courier", -16, 700, true)), 0);
-  EXPECT_EQ(Read(form()), (Font{"Courier", MulDiv(16, 72, Dpi()), 1, 1}));
+  EXPECT_EQ(FontLookOf(form()), (FontLook{"Courier", MulDiv(16, 72, Dpi()), 1, 1}));
   HFONT field = MakeFont("Arial", 20, 699, false);
   SendMessageA(Control(kField), WM_SETFONT, reinterpret_cast<WPARAM>(field), 0);
-  EXPECT_EQ(Read(Control(kField)), (Font{"Arial", MulDiv(20, 72, Dpi()), 0, 0}));
-  EXPECT_EQ(Read(plain()), (Font{"Tahoma", MulDiv(12, 72, Dpi()), 0, 0}));
+  EXPECT_EQ(FontLookOf(Control(kField)), (FontLook{"Arial", MulDiv(20, 72, Dpi()), 0, 0}));
+  EXPECT_EQ(FontLookOf(plain()), (FontLook{"Tahoma", MulDiv(12, 72, Dpi()), 0, 0}));
   DeleteObject(field);
 }
 
@@ -125,7 +98,7 @@ TEST_F(FontTest, NameIsCutToTheBuffer) {
 TEST_F(FontTest, NameHasAtMost31Characters) {
   const std::string face(40, 'f');
   EXPECT_EQ(SetFontName(form(), face.c_str()), RTX_OK);
-  EXPECT_EQ(Read(form()).face, face.substr(0, 31));
+  EXPECT_EQ(FontLookOf(form()).face, face.substr(0, 31));
 }
 
 TEST_F(FontTest, OutputsMayBeMissing) {
@@ -139,12 +112,12 @@ TEST_F(FontTest, OutputsMayBeMissing) {
 
 TEST_F(FontTest, EachChangeKeepsTheRest) {
   for (HWND window : Windows()) {
-    Font expected = Read(window);
+    FontLook expected = FontLookOf(window);
     for (const Change& change : Changes()) {
       SCOPED_TRACE(change.what);
       EXPECT_EQ(change.make(window), RTX_OK);
       change.model(expected);
-      EXPECT_EQ(Read(window), expected);
+      EXPECT_EQ(FontLookOf(window), expected);
       const LOGFONTA made = Describe(FontOf(window));
       EXPECT_EQ(made.lfHeight, -MulDiv(Dpi(), expected.size, 72));
       EXPECT_EQ(made.lfWeight, expected.bold != 0 ? 700 : 400);
@@ -155,7 +128,7 @@ TEST_F(FontTest, EachChangeKeepsTheRest) {
 TEST_F(FontTest, SizesComeBackAsTheyWereSet) {
   for (int32_t size = 1; size < 100; ++size) {
     EXPECT_EQ(SetFontSize(form(), size), RTX_OK);
-    EXPECT_EQ(Read(form()).size, size);
+    EXPECT_EQ(FontLookOf(form()).size, size);
   }
 }
 
@@ -203,7 +176,7 @@ TEST_F(FontTest, OfTheFormStaysWhenAPartOfAControlGetsItsOwn) {
   ASSERT_EQ(OwnFont(part), shared);
   for (const int32_t size : {20, 30}) {
     EXPECT_EQ(SetFontSize(part, size), RTX_OK);
-    EXPECT_EQ(Read(part).size, size);
+    EXPECT_EQ(FontLookOf(part).size, size);
     EXPECT_EQ(GetObjectType(shared), static_cast<DWORD>(OBJ_FONT));
   }
   EXPECT_EQ(OwnFont(Control(kDropDown)), shared);
@@ -216,9 +189,9 @@ TEST_F(FontTest, OfAControlStaysWhenAPartOfItGetsItsOwn) {
   HFONT given = OwnFont(Control(kDropDown));
   ASSERT_EQ(OwnFont(part), given);
   EXPECT_EQ(SetFontSize(part, 30), RTX_OK);
-  EXPECT_EQ(Read(part).size, 30);
+  EXPECT_EQ(FontLookOf(part).size, 30);
   EXPECT_EQ(GetObjectType(given), static_cast<DWORD>(OBJ_FONT));
-  EXPECT_EQ(Read(Control(kDropDown)).size, 20);
+  EXPECT_EQ(FontLookOf(Control(kDropDown)).size, 20);
 }
 
 TEST_F(FontTest, ThatAProgramGaveAControlIsDeletedLikeAnyOther) {
@@ -227,7 +200,7 @@ TEST_F(FontTest, ThatAProgramGaveAControlIsDeletedLikeAnyOther) {
   HFONT given = MakeFont("Arial", -20, 400, false);
   SendMessageA(Control(kField), WM_SETFONT, reinterpret_cast<WPARAM>(given), 0);
   EXPECT_EQ(SetFontBold(Control(kField), 1), RTX_OK);
-  EXPECT_EQ(Read(Control(kField)), (Font{"Arial", MulDiv(20, 72, Dpi()), 1, 0}));
+  EXPECT_EQ(FontLookOf(Control(kField)), (FontLook{"Arial", MulDiv(20, 72, Dpi()), 1, 0}));
   EXPECT_EQ(GetObjectType(given), 0u);
   EXPECT_EQ(GetObjectType(own), 0u);
 }
@@ -299,13 +272,13 @@ TEST_F(FontTest, OfAHandleThatIsNoWindowIs702AndEmpty) {
   HWND gone = Control(kPush);
   DestroyWindow(gone);
   for (HWND window : {gone, reinterpret_cast<HWND>(0xDEAD)}) {
-    EXPECT_EQ(Read(window), kNoFont);
+    EXPECT_EQ(FontLookOf(window), kNoFont);
     for (const Change& change : Changes()) EXPECT_EQ(change.make(window), RTX_NO_WINDOW);
   }
 }
 
 TEST_F(FontTest, OfThePrinterIs924AndEmptyWithoutAJob) {
-  EXPECT_EQ(Read(nullptr), kNoFont);
+  EXPECT_EQ(FontLookOf(nullptr), kNoFont);
   for (const Change& change : Changes()) EXPECT_EQ(change.make(nullptr), RTX_NO_PRINTER);
 }
 
@@ -374,7 +347,7 @@ TEST_F(FontTest, ThatIsDamagedByTheChangeIs712) {
         EXPECT_EQ(SetFontSize(window, 30), RTX_BAD_FONT);
       }
       EXPECT_NE(FontOf(window), before);
-      EXPECT_EQ(Read(window).size, 30);
+      EXPECT_EQ(FontLookOf(window).size, 30);
     }
   }
 }
@@ -395,7 +368,7 @@ TEST_F(FontTest, FacesBeginWithALetterAnUnderscoreOrAnAtSign) {
       SendMessageA(window, window == form() ? XM_SETDRAWFONT : WM_SETFONT, reinterpret_cast<WPARAM>(sound),
                    0);
       EXPECT_EQ(SetFontName(window, c.face), c.code);
-      EXPECT_EQ(Read(window).face, c.face);
+      EXPECT_EQ(FontLookOf(window).face, c.face);
     }
   }
 }

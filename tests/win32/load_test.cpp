@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "frame/winobject.h"
 #include "tests/support/guarded.h"
 #include "tests/win32/support/forms.h"
 #include "tests/win32/support/imports.h"
+#include "tests/win32/support/record.h"
 #include "tests/win32/support/spy.h"
 
 namespace brelt::test {
@@ -16,9 +16,6 @@ constexpr const char* kNoControls = "DIALOG 0, 0, 100, 100\nBEGIN\nEND\n";
 
 HMODULE Program() { return GetModuleHandleA(nullptr); }
 
-const WindowRow* RecordOf(HWND window) {
-  return reinterpret_cast<const WindowRow*>(GetWindowLongA(window, 0));
-}
 LONG SlotOf(HWND window, Slot slot) { return GetWindowLongA(window, slot * 4); }
 
 class LoadTest : public FormTest {};
@@ -31,13 +28,6 @@ TEST_F(LoadTest, MakesAHiddenWindowWithItsControls) {
   EXPECT_FALSE(IsWindowVisible(form.window));
   EXPECT_EQ(Log().All(), "EV_LOAD 0 0\n");
   EXPECT_TRUE(IsWindow(GetDlgItem(form.window, IDOK)));
-}
-
-// The DLL brings them when it comes itself; control modules are made of them.
-TEST_F(LoadTest, ThereAreTheCommonControls) {
-  WNDCLASSEXA info = {};
-  info.cbSize = sizeof info;
-  EXPECT_TRUE(GetClassInfoExA(nullptr, "msctls_trackbar32", &info));
 }
 
 TEST_F(LoadTest, NeverMakesAVisibleWindow) {

@@ -3,17 +3,13 @@
 #include <utility>
 #include <vector>
 
-#include "frame/winobject.h"
 #include "tests/win32/support/forms.h"
 #include "tests/win32/support/handles.h"
 #include "tests/win32/support/imports.h"
+#include "tests/win32/support/record.h"
 
 namespace brelt::test {
 namespace {
-
-const WindowRow* RecordOf(HWND window) {
-  return reinterpret_cast<const WindowRow*>(GetWindowLongA(window, 0));
-}
 
 // A form with everything that a load takes memory for. word is the id of its first control.
 std::string FormText(const std::string& word) {

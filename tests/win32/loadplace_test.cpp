@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "frame/winobject.h"
 #include "tests/win32/support/forms.h"
 #include "tests/win32/support/imports.h"
+#include "tests/win32/support/record.h"
 
 namespace brelt::test {
 namespace {
@@ -14,10 +14,6 @@ struct Units {
   int width;
   int height;
 };
-
-const WindowRow* RecordOf(HWND window) {
-  return reinterpret_cast<const WindowRow*>(GetWindowLongA(window, 0));
-}
 
 // The units of a window's font, by a measurement of the test's own.
 Units UnitsOf(HWND window) {

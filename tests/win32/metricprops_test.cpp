@@ -34,7 +34,7 @@ TEST_F(MetricTest, PositionIsTheRecords) {
     for (HWND window : {form(), frame.get()}) {
       for (const int32_t value : {0, 17, -5, INT_MIN, INT_MAX}) {
         EXPECT_EQ(c.set(window, value), RTX_OK);
-        EXPECT_EQ(reinterpret_cast<const WindowRow*>(GetWindowLongA(window, 0))->*c.field, value);
+        EXPECT_EQ(RecordOf(window)->*c.field, value);
         int32_t got = -77;
         EXPECT_EQ(c.get(window, &got), RTX_OK);
         EXPECT_EQ(got, value);

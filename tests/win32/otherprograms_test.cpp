@@ -79,18 +79,7 @@ TEST_F(OtherProgramTest, ItsFontIsNoneAndCantBeChanged) {
   const CountedImport<struct SendTag, LRESULT, HWND, UINT, WPARAM, LPARAM> sendings("SendMessageA");
   for (HWND window : {this->window(), field()}) {
     ASSERT_TRUE(IsWindow(window));
-    char face[64] = "unset";
-    int32_t size = -77;
-    uint8_t bold = 77;
-    uint8_t italic = 77;
-    EXPECT_EQ(GetFontName(window, face, sizeof face), RTX_OK);
-    EXPECT_EQ(GetFontSize(window, &size), RTX_OK);
-    EXPECT_EQ(GetFontBold(window, &bold), RTX_OK);
-    EXPECT_EQ(GetFontItalic(window, &italic), RTX_OK);
-    EXPECT_STREQ(face, "");
-    EXPECT_EQ(size, 0);
-    EXPECT_EQ(bold, 0);
-    EXPECT_EQ(italic, 0);
+    EXPECT_EQ(FontLookOf(window), kNoFont);
     EXPECT_EQ(SetFontName(window, "Courier"), RTX_NO_WINDOW);
     EXPECT_EQ(SetFontSize(window, 20), RTX_NO_WINDOW);
     EXPECT_EQ(SetFontBold(window, 1), RTX_NO_WINDOW);

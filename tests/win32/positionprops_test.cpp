@@ -454,7 +454,7 @@ TEST_F(PositionTest, LimitsInClientTermsAreWithoutFrameTitleAndMenuBar) {
     SCOPED_TRACE(std::string(frame.style) + " " + frame.menu);
     const LoadResult other = LoadFrame(frame);
     ASSERT_EQ(other.code, RTX_OK);
-    auto* record = reinterpret_cast<WindowRow*>(GetWindowLongA(other.window, 0));
+    auto* record = RecordOf(other.window);
     record->maxPosition = {3, 4, 640, 480};
     record->minPosition = {0, 0, 300, 200};
     const SIZE taken = TakenBy(frame);
@@ -477,7 +477,7 @@ TEST_F(PositionTest, LimitsAreTakenByWindowsThatTheUserCanSizeAlone) {
     SCOPED_TRACE(std::string(frame.style) + " " + frame.menu);
     const LoadResult other = LoadFrame(frame);
     ASSERT_EQ(other.code, RTX_OK);
-    const auto* record = reinterpret_cast<const WindowRow*>(GetWindowLongA(other.window, 0));
+    const auto* record = RecordOf(other.window);
     SetLimitTo(SetMaxPosition, 1, {3, 4, 640, 480}, "Other");
     SetLimitTo(SetMinPosition, 1, {3, 4, 300, 200}, "Other");
     EXPECT_EQ(record->maxPosition.width, frame.sizable ? 640 : 0);

@@ -323,7 +323,7 @@ class Watchdog {
  private:
   static DWORD WINAPI Run(LPVOID data) {
     auto* dog = static_cast<Watchdog*>(data);
-    if (WaitForSingleObject(dog->done_, 10000) == WAIT_OBJECT_0) return 0;
+    if (WaitForSingleObject(dog->done_, 30000) == WAIT_OBJECT_0) return 0;
     dog->barked_ = true;
     PostThreadMessageA(dog->guarded_, WM_NULL, 0, 0);
     return 0;
@@ -405,46 +405,39 @@ struct Hand {
   }
 };
 
-TEST_F(TrackRectTest, AHandOutsideDragsIt) {
-  Hand hand = {GetCurrentThreadId(), window_, background_ ^ kBandColour};
-  bool tracked = false;
-  frame_ = kFrame;
-  Log().onEvent = [&](HWND, const Event& event) {
-    if (event.event != EV_MOUSEDOWN || tracked) return 0;
-    tracked = true;
-    EXPECT_EQ(Call(), RTX_OK);
-    return 0;
-  };
-  HANDLE thread = CreateThread(nullptr, 0, Hand::Drag, &hand, 0, nullptr);
-  MovePointer(window_, 179, 109);
-  Pump();
-  LeftDown();
-  ASSERT_TRUE(PumpUntil([&] { return tracked; }, 20000));
-  WaitForSingleObject(thread, INFINITE);
-  CloseHandle(thread);
+class TrackRectHandTest : public TrackRectTest {
+ protected:
+  // Tracks kFrame from the event of a press on its handle, while a hand does its part.
+  void TrackWith(LPTHREAD_START_ROUTINE part) {
+    Hand hand = {GetCurrentThreadId(), window_, background_ ^ kBandColour};
+    bool tracked = false;
+    frame_ = kFrame;
+    Log().onEvent = [&](HWND window, const Event& event) {
+      if (event.event == EV_CUSTOM) DestroyWindow(window);
+      if (event.event != EV_MOUSEDOWN || tracked) return 0;
+      tracked = true;
+      const Watchdog dog;
+      EXPECT_EQ(Call(), RTX_OK);
+      return 0;
+    };
+    HANDLE thread = CreateThread(nullptr, 0, part, &hand, 0, nullptr);
+    MovePointer(window_, 179, 109);
+    Pump();
+    LeftDown();
+    EXPECT_TRUE(PumpUntil([&] { return tracked; }, 40000));
+    WaitForSingleObject(thread, INFINITE);
+    CloseHandle(thread);
+  }
+};
+
+TEST_F(TrackRectHandTest, AHandOutsideDragsIt) {
+  TrackWith(Hand::Drag);
   EXPECT_EQ(frame_, (Frame{100, 60, 119, 89}));
 }
 
 // A message that is sent goes past the queue, so that there need be none after it.
-TEST_F(TrackRectTest, AWindowThatGoesByASentMessageEndsIt) {
-  Hand hand = {GetCurrentThreadId(), window_, background_ ^ kBandColour};
-  bool tracked = false;
-  frame_ = kFrame;
-  Log().onEvent = [&](HWND window, const Event& event) {
-    if (event.event == EV_CUSTOM) DestroyWindow(window);
-    if (event.event != EV_MOUSEDOWN || tracked) return 0;
-    tracked = true;
-    const Watchdog dog;
-    EXPECT_EQ(Call(), RTX_OK);
-    return 0;
-  };
-  HANDLE thread = CreateThread(nullptr, 0, Hand::Send, &hand, 0, nullptr);
-  MovePointer(window_, 179, 109);
-  Pump();
-  LeftDown();
-  ASSERT_TRUE(PumpUntil([&] { return tracked; }, 20000));
-  WaitForSingleObject(thread, INFINITE);
-  CloseHandle(thread);
+TEST_F(TrackRectHandTest, AWindowThatGoesByASentMessageEndsIt) {
+  TrackWith(Hand::Send);
   EXPECT_FALSE(IsWindow(window_));
   EXPECT_EQ(frame_, kFrame);
 }

@@ -54,6 +54,12 @@ HWND LoadShown(const std::string& name, const std::string& controls, const std::
   return form.window;
 }
 
+std::string TextOf(HWND window) {
+  char text[2048] = "";
+  GetWindowTextA(window, text, sizeof text);
+  return text;
+}
+
 namespace {
 
 int pumps = 0;

@@ -36,6 +36,9 @@ HWND LoadShown(const std::string& name, const std::string& controls,
 // Shows a loaded window as a program does.
 int32_t ShowForm(const std::string& name, bool modal = false, int32_t* result = nullptr);
 
+// The text of a window, cut at 2,047 characters.
+std::string TextOf(HWND window);
+
 // Handles waiting messages as MainLoop does not: just dispatches.
 void Pump();
 bool IsPumping();

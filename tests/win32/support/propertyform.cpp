@@ -62,6 +62,23 @@ void PropertyTest::ShowForm() const {
   Pump();
 }
 
+FontLook FontLookOf(HWND window) {
+  char face[64] = "unset";
+  int32_t size = -77;
+  uint8_t bold = 77;
+  uint8_t italic = 77;
+  EXPECT_EQ(GetFontName(window, face, sizeof face), RTX_OK);
+  EXPECT_EQ(GetFontSize(window, &size), RTX_OK);
+  EXPECT_EQ(GetFontBold(window, &bold), RTX_OK);
+  EXPECT_EQ(GetFontItalic(window, &italic), RTX_OK);
+  return {face, size, bold, italic};
+}
+
+std::ostream& operator<<(std::ostream& out, const FontLook& font) {
+  return out << '"' << font.face << "\" " << font.size << (font.bold != 0 ? " bold" : "")
+             << (font.italic != 0 ? " italic" : "");
+}
+
 Painting PaintingOf(const MessageSpy& spy, HWND window) {
   return {static_cast<int>(spy.To(window, WM_PAINT).size()),
           static_cast<int>(spy.To(window, WM_ERASEBKGND).size())};

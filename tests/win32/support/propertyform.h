@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "frame/winobject.h"
 #include "tests/win32/support/forms.h"
+#include "tests/win32/support/record.h"
 #include "tests/win32/support/spy.h"
 
 namespace brelt::test {
@@ -46,13 +46,26 @@ class PropertyTest : public FormTest {
   HWND form() const { return form_; }
   HWND Control(int32_t id) const { return GetDlgItem(form_, id); }
   HMENU menu() const { return GetMenu(form_); }
-  WindowRow* record() const { return reinterpret_cast<WindowRow*>(GetWindowLongA(form_, 0)); }
+  WindowRow* record() const { return RecordOf(form_); }
   // Makes the form visible and has it painted.
   void ShowForm() const;
 
  private:
   HWND form_ = nullptr;
 };
+
+// What the four calls tell of a window's font.
+struct FontLook {
+  std::string face;
+  int32_t size;
+  int bold;
+  int italic;
+
+  bool operator==(const FontLook&) const = default;
+};
+FontLook FontLookOf(HWND window);
+std::ostream& operator<<(std::ostream& out, const FontLook& font);
+inline const FontLook kNoFont = {"", 0, 0, 0};
 
 // How often a window was painted while a spy listened, and its background erased for it.
 struct Painting {
